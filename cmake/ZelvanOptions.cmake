@@ -1,0 +1,32 @@
+# SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+# SPDX-License-Identifier: GPL-3.0-only
+
+# Warnings, sanitizers and the one include root live here and nowhere else.
+add_library(zelvan_options INTERFACE)
+target_include_directories(zelvan_options INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_definitions(zelvan_options INTERFACE
+    QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+    QT_NO_FOREACH)
+if(NOT MSVC)
+    target_compile_options(zelvan_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+    if(ZELVAN_SANITIZE)
+        target_compile_options(zelvan_options INTERFACE
+            -fsanitize=${ZELVAN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(zelvan_options INTERFACE -fsanitize=${ZELVAN_SANITIZE})
+    endif()
+    if(ZELVAN_COVERAGE)
+        target_compile_options(zelvan_options INTERFACE --coverage)
+        target_link_options(zelvan_options INTERFACE --coverage)
+    endif()
+endif()
+
+# zelvan_layer(NAME SOURCES ... LINKS ...): one layer as a static library with its precompiled header.
+function(zelvan_layer name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+    qt_add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC ${arg_LINKS} zelvan_options PRIVATE ${arg_PRIVATE_LINKS})
+    target_precompile_headers(${name} PRIVATE
+        <optional> <QAbstractListModel> <QDateTime> <QList> <QMap> <QObject> <QSqlDatabase>
+        <QSqlError> <QSqlQuery> <QString> <QVariant>)
+endfunction()

@@ -1,0 +1,371 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "core/DatabaseManager.h"
+
+#include "core/Identity.h"
+#include "core/Logging.h"
+#include "core/Migrations.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <optional>
+
+const QString DatabaseManager::mainConnectionName = QStringLiteral("main_connection");
+
+namespace {
+const QString driverName = QStringLiteral("QSQLITE");
+
+bool isRegistered()
+{
+    return QSqlDatabase::contains(DatabaseManager::mainConnectionName);
+}
+
+/// A connection under a name of its own, gone again at the end of the scope. Sets no pragma.
+class ShortLivedConnection final
+{
+public:
+    ShortLivedConnection(const QString &name, const QString &path)
+        : m_name(name)
+    {
+        if (QSqlDatabase::contains(name)) {
+            QSqlDatabase::removeDatabase(name);
+        }
+        m_handle = QSqlDatabase::addDatabase(driverName, name);
+        m_handle.setDatabaseName(path);
+    }
+    ~ShortLivedConnection()
+    {
+        m_handle.close();
+        m_handle = QSqlDatabase();
+        QSqlDatabase::removeDatabase(m_name);
+    }
+    Q_DISABLE_COPY_MOVE(ShortLivedConnection)
+
+    QSqlDatabase &handle() { return m_handle; }
+
+private:
+    QString m_name;
+    QSqlDatabase m_handle;
+};
+
+void dropMainConnection()
+{
+    if (!isRegistered()) {
+        return;
+    }
+    {
+        QSqlDatabase database = QSqlDatabase::database(DatabaseManager::mainConnectionName, false);
+        if (database.isOpen()) {
+            database.close();
+        }
+    }
+    QSqlDatabase::removeDatabase(DatabaseManager::mainConnectionName);
+}
+
+QSqlDatabase addMainConnection()
+{
+    return QSqlDatabase::addDatabase(driverName, DatabaseManager::mainConnectionName);
+}
+
+struct TransactionWords
+{
+    const char *missing;
+    const char *closed;
+    const char *failed;
+};
+
+/// The three transaction operations share their checks and differ in words and in the call.
+bool transactionStep(const TransactionWords &words, bool (QSqlDatabase::*step)())
+{
+    if (!isRegistered()) {
+        qCWarning(lcDatabase) << words.missing;
+        return false;
+    }
+    QSqlDatabase database = QSqlDatabase::database(DatabaseManager::mainConnectionName, false);
+    if (!database.isOpen()) {
+        qCWarning(lcDatabase) << words.closed;
+        return false;
+    }
+    if (!(database.*step)()) {
+        qCWarning(lcDatabase) << words.failed << database.lastError().text();
+        return false;
+    }
+    return true;
+}
+
+/// The script's text from the resources, else from the sources two levels above the program, which
+/// serves a program run from a build folder. Absent when neither can be opened.
+std::optional<QByteArray> readScript(const QString &name)
+{
+    QFile resource(QStringLiteral(":/migrations/") + name);
+    if (resource.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        return resource.readAll();
+    }
+    QDir folder(QCoreApplication::applicationDirPath());
+    folder.cdUp();
+    folder.cdUp();
+    const QString baseName = name.split(QLatin1Char('/')).constLast();
+    const QString fallback =
+        folder.absoluteFilePath(QStringLiteral("core/database/migrations/") + baseName);
+    QFile source(fallback);
+    if (source.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        return source.readAll();
+    }
+    qCCritical(lcMigration) << "Cannot open migration file:" << name << "Tried:" << fallback;
+    return std::nullopt;
+}
+
+/// Runs every statement of one script. Splitting at each semicolon is all the parsing there is:
+/// the scripts hold none but the last.
+bool runScript(const QSqlDatabase &database, const QString &name, const QByteArray &script)
+{
+    const QStringList parts =
+        QString::fromUtf8(script).split(QLatin1Char(';'), Qt::SkipEmptyParts, Qt::CaseSensitive);
+    for (const QString &part : parts) {
+        const QString statement = part.trimmed();
+        if (statement.isEmpty()) {
+            continue;
+        }
+        QSqlQuery query(database);
+        if (!query.exec(statement)) {
+            qCCritical(lcMigration) << "Migration failed:" << name << "\nStatement:" << statement
+                                    << "\nError:" << query.lastError().text();
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Applies one script and records it, unless it is recorded already.
+bool applyMigration(const QSqlDatabase &database, const QString &name)
+{
+    {
+        QSqlQuery check(database);
+        check.prepare(QStringLiteral("SELECT 1 FROM applied_migrations WHERE migration_name = ?"));
+        check.addBindValue(name);
+        if (!check.exec()) {
+            qCCritical(lcMigration) << "Failed to check migration:" << check.lastError().text();
+            return false;
+        }
+        if (check.next()) {
+            return true;
+        }
+    }
+    const std::optional<QByteArray> script = readScript(name);
+    if (!script || !runScript(database, name, *script)) {
+        return false;
+    }
+    QSqlQuery record(database);
+    record.prepare(QStringLiteral(
+        "INSERT INTO applied_migrations (migration_name, applied_at) VALUES (?, ?)"));
+    record.addBindValue(name);
+    record.addBindValue(QDateTime::currentDateTimeUtc().toString(Qt::ISODate));
+    if (!record.exec()) {
+        qCCritical(lcMigration) << "Failed to record migration:" << record.lastError().text();
+        return false;
+    }
+    qCInfo(lcMigration) << "Migration applied:" << name;
+    return true;
+}
+
+bool createMigrationTable(const QSqlDatabase &database)
+{
+    QSqlQuery query(database);
+    if (query.exec(QStringLiteral("CREATE TABLE IF NOT EXISTS applied_migrations ("
+                                  "migration_name TEXT PRIMARY KEY, applied_at TEXT NOT NULL)"))) {
+        return true;
+    }
+    qCCritical(lcMigration) << "Failed to create applied_migrations:" << query.lastError().text();
+    return false;
+}
+
+bool applyPending(const QSqlDatabase &database)
+{
+    if (!createMigrationTable(database)) {
+        return false;
+    }
+    for (const QString &name : migrationNames()) {
+        if (!applyMigration(database, name)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Journal rows are read to the end and the query finished, so that no statement stays open.
+void enablePragmas(const QSqlDatabase &database)
+{
+    QSqlQuery query(database);
+    if (!query.exec(QStringLiteral("PRAGMA foreign_keys = ON;"))) {
+        qCWarning(lcDatabase) << "Failed to enable foreign keys:" << query.lastError().text();
+    }
+    if (query.exec(QStringLiteral("PRAGMA journal_mode = WAL;"))) {
+        while (query.next()) {
+        }
+        query.finish();
+    } else {
+        qCWarning(lcDatabase) << "Failed to enable WAL:" << query.lastError().text();
+    }
+}
+} // namespace
+
+QSqlDatabase DatabaseManager::connection()
+{
+    return QSqlDatabase::database(mainConnectionName, true);
+}
+
+bool DatabaseManager::testConnection(const QString &path)
+{
+    ShortLivedConnection connection(QStringLiteral("test_connection"), path);
+    const bool opened = connection.handle().open();
+    if (!opened) {
+        qCWarning(lcDatabase) << "Failed to open database test connection:" << path
+                              << connection.handle().lastError().text();
+    }
+    return opened;
+}
+
+bool DatabaseManager::isZelvanDatabase(const QString &path)
+{
+    if (path.isEmpty() || !QFile::exists(path)) {
+        return false;
+    }
+    ShortLivedConnection connection(QStringLiteral("zelvan_db_validation"), path);
+    if (!connection.handle().open()) {
+        qCWarning(lcDatabase) << "Failed to open database for Zelvan validation:"
+                              << connection.handle().lastError();
+        return false;
+    }
+    QSqlQuery query(connection.handle());
+    const bool ran =
+        query.prepare(QStringLiteral("SELECT value FROM app_state WHERE key = 'app.id' LIMIT 1")) &&
+        query.exec();
+    if (!ran) {
+        qCWarning(lcDatabase) << "Failed to check database identity:" << query.lastError();
+        return false;
+    }
+    return query.next() && query.value(0).toString() == Identity::appId;
+}
+
+bool DatabaseManager::checkpointWal()
+{
+    if (!isRegistered()) {
+        return false;
+    }
+    const QSqlDatabase database = QSqlDatabase::database(mainConnectionName, false);
+    if (!database.isOpen()) {
+        return false;
+    }
+    // The row it answers (busy flag, page counts) is not read: only a failing statement counts.
+    QSqlQuery query(database);
+    if (!query.exec(QStringLiteral("PRAGMA wal_checkpoint(FULL);"))) {
+        qCWarning(lcDatabase) << "Failed to checkpoint WAL:" << query.lastError().text();
+        return false;
+    }
+    return true;
+}
+
+bool DatabaseManager::beginTransaction()
+{
+    return transactionStep({"Cannot begin transaction: database connection does not exist.",
+                            "Cannot begin transaction: database is not open.",
+                            "Failed to begin transaction:"},
+                           &QSqlDatabase::transaction);
+}
+
+bool DatabaseManager::commitTransaction()
+{
+    return transactionStep({"Cannot commit: database connection does not exist.",
+                            "Cannot commit: database is not open.",
+                            "Failed to commit transaction:"},
+                           &QSqlDatabase::commit);
+}
+
+bool DatabaseManager::rollbackTransaction()
+{
+    return transactionStep({"Cannot rollback: database connection does not exist.",
+                            "Cannot rollback: database is not open.",
+                            "Failed to rollback transaction:"},
+                           &QSqlDatabase::rollback);
+}
+
+void DatabaseManager::closeDatabase()
+{
+    if (!isRegistered()) {
+        return;
+    }
+    dropMainConnection();
+    qCInfo(lcDatabase) << "Database closed";
+}
+
+bool DatabaseManager::openExisting(const QString &path)
+{
+    if (path.isEmpty()) {
+        qCWarning(lcDatabase) << "openExisting: empty path";
+        return false;
+    }
+    if (!QFile::exists(path)) {
+        qCWarning(lcDatabase) << "openExisting: file does not exist:" << path;
+        return false;
+    }
+    dropMainConnection();
+    QSqlDatabase database = addMainConnection();
+    database.setDatabaseName(path);
+    if (!database.open()) {
+        qCCritical(lcDatabase) << "openExisting failed:" << database.lastError().text();
+        database = QSqlDatabase();
+        QSqlDatabase::removeDatabase(mainConnectionName);
+        return false;
+    }
+    // The results are deliberately not examined: the file was validated by the caller.
+    {
+        QSqlQuery query(database);
+        query.exec(QStringLiteral("PRAGMA foreign_keys = ON"));
+        query.exec(QStringLiteral("PRAGMA journal_mode = WAL"));
+    }
+    qCInfo(lcDatabase) << "Opened existing database:" << path;
+    return true;
+}
+
+bool DatabaseManager::initialize(const QString &path)
+{
+    dropMainConnection();
+    QSqlDatabase database = addMainConnection();
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    database.setDatabaseName(path);
+    if (!database.open()) {
+        qCCritical(lcDatabase) << "Cannot open database:" << database.lastError().text();
+        return false;
+    }
+    enablePragmas(database);
+    return runMigrations();
+}
+
+bool DatabaseManager::runMigrations()
+{
+    QSqlDatabase database = connection();
+    if (!database.isOpen()) {
+        qCCritical(lcDatabase) << "Database is not open.";
+        return false;
+    }
+    if (!database.transaction()) {
+        qCCritical(lcDatabase) << "Failed to begin transaction:" << database.lastError().text();
+        return false;
+    }
+    if (!applyPending(database)) {
+        database.rollback();
+        return false;
+    }
+    if (!database.commit()) {
+        // No rollback here: what a failed commit leaves is SQLite's to say.
+        qCCritical(lcDatabase) << "Failed to commit transaction:" << database.lastError().text();
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#pragma once
+
+#include <QString>
+
+/// The text to store for a password: Argon2id in libsodium's string form, with parameters and salt
+/// in it. Empty where libsodium cannot start. Takes about 64 MiB and a noticeable moment;
+/// thread-safe.
+[[nodiscard]] QString hashPassword(const QString &password);
+
+/// Whether the password is the one behind the hash text.
+[[nodiscard]] bool verifyPassword(const QString &password, const QString &hash);

@@ -1,0 +1,7 @@
+CREATE TABLE IF NOT EXISTS regional_settings (
+    id INTEGER PRIMARY KEY CHECK (id = 1),
+    locale TEXT NOT NULL DEFAULT 'en_US',
+    currency_code TEXT NOT NULL DEFAULT 'USD', -- ISO 4217
+    created_at DATETIME DEFAULT CURRENT_TIMESTAMP,
+    updated_at DATETIME DEFAULT CURRENT_TIMESTAMP
+);

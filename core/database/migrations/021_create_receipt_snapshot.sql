@@ -1,0 +1,20 @@
+CREATE TABLE IF NOT EXISTS receipt_snapshot (
+    id INTEGER PRIMARY KEY AUTOINCREMENT,
+    order_session_id INTEGER NOT NULL,
+    cashier_name TEXT,
+    store_name TEXT,
+    address TEXT,
+    phone TEXT,
+    email TEXT,
+    website TEXT,
+    tax_name TEXT,
+    tax_rate INTEGER,
+    tax_registration_number TEXT,
+    member_phone TEXT,
+    points_balance_before INTEGER,
+    points_balance_after INTEGER,
+    order_type TEXT,
+    table_name TEXT,
+    created_at DATETIME DEFAULT CURRENT_TIMESTAMP,
+    FOREIGN KEY (order_session_id) REFERENCES order_sessions(id) ON DELETE CASCADE
+);

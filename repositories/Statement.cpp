@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "repositories/Statement.h"
+
+#include <QDebug>
+#include <QSqlError>
+
+namespace {
+QString notNull(const QString &value)
+{
+    return value.isNull() ? QStringLiteral("") : value;
+}
+} // namespace
+
+Statement::Statement(const QSqlDatabase &database, const QString &sql, const FailureReport &report)
+    : m_query(database)
+    , m_report(report)
+{
+    m_query.setForwardOnly(true);
+    m_prepared = m_query.prepare(sql);
+}
+
+void Statement::bind(const char *placeholder, int value)
+{
+    m_query.bindValue(QLatin1String(placeholder), value);
+}
+
+void Statement::bind(const char *placeholder, bool value)
+{
+    m_query.bindValue(QLatin1String(placeholder), value ? 1 : 0);
+}
+
+void Statement::bind(const char *placeholder, double value)
+{
+    m_query.bindValue(QLatin1String(placeholder), value);
+}
+
+void Statement::bind(const char *placeholder, const QString &value)
+{
+    m_query.bindValue(QLatin1String(placeholder), notNull(value));
+}
+
+void Statement::addBind(int value)
+{
+    m_query.addBindValue(value);
+}
+
+void Statement::addBind(const QString &value)
+{
+    m_query.addBindValue(notNull(value));
+}
+
+bool Statement::run()
+{
+    if (m_prepared && m_query.exec()) {
+        return true;
+    }
+    report();
+    return false;
+}
+
+std::optional<QString> Statement::optionalText(int column) const
+{
+    const QVariant value = m_query.value(column);
+    return value.isNull() ? std::nullopt : std::optional(value.toString());
+}
+
+std::optional<int> Statement::optionalInteger(int column) const
+{
+    const QVariant value = m_query.value(column);
+    return value.isNull() ? std::nullopt : std::optional(value.toInt());
+}
+
+void Statement::report() const
+{
+    const QSqlError error = m_query.lastError();
+    const QLoggingCategory &category = m_report.category();
+    const QMessageLogger logger(nullptr, 0, nullptr, category.categoryName());
+    QDebug line = m_report.level == QtCriticalMsg ? logger.critical() : logger.warning();
+    line << m_report.text;
+    if (m_report.error == FailureReport::Error::Full) {
+        line << error;
+    } else {
+        line << error.text();
+    }
+}

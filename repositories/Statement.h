@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#pragma once
+
+#include "core/Logging.h"
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+
+/// How a failed statement is told in the log: the text, then the error.
+struct FailureReport
+{
+    enum class Error
+    {
+        /// Streamed as a QSqlError.
+        Full,
+        /// Only its text.
+        Text,
+    };
+
+    const char *text;
+    const QLoggingCategory &(*category)() = lcDatabase;
+    QtMsgType level = QtWarningMsg;
+    Error error = Error::Full;
+};
+
+/// One SQL statement from preparation to result, its failure logged once and its rows released at
+/// the end of the scope, so that none stays open under a checkpoint.
+///
+///     Statement statement(m_database, sql, {"findById failed:"});
+///     statement.bind(":id", id);
+///     if (!statement.run() || !statement.next()) { return std::nullopt; }
+class Statement final
+{
+public:
+    Statement(const QSqlDatabase &database, const QString &sql, const FailureReport &report);
+
+    void bind(const char *placeholder, int value);
+    void bind(const char *placeholder, bool value);
+    void bind(const char *placeholder, double value);
+    /// An unset text is bound as an empty one: NULL is for absent optionals only.
+    void bind(const char *placeholder, const QString &value);
+    void bind(const char *placeholder, const char *) = delete;
+    template<typename T>
+    void bind(const char *placeholder, const std::optional<T> &value)
+    {
+        if (value) {
+            bind(placeholder, *value);
+        } else {
+            m_query.bindValue(QLatin1String(placeholder), QVariant());
+        }
+    }
+    /// For statements with "?": in their order.
+    void addBind(int value);
+    void addBind(const QString &value);
+
+    /// Runs the statement; a failure of the preparation or the run is logged and answers false.
+    [[nodiscard]] bool run();
+    [[nodiscard]] bool next() { return m_query.next(); }
+
+    [[nodiscard]] int integer(int column) const { return m_query.value(column).toInt(); }
+    [[nodiscard]] bool boolean(int column) const { return m_query.value(column).toBool(); }
+    [[nodiscard]] double real(int column) const { return m_query.value(column).toDouble(); }
+    [[nodiscard]] QString text(int column) const { return m_query.value(column).toString(); }
+    [[nodiscard]] std::optional<QString> optionalText(int column) const;
+    [[nodiscard]] std::optional<int> optionalInteger(int column) const;
+
+    /// The id given by the last insert; 0 where there is none.
+    [[nodiscard]] int insertedId() const { return m_query.lastInsertId().toInt(); }
+
+private:
+    void report() const;
+
+    QSqlQuery m_query;
+    FailureReport m_report;
+    bool m_prepared = false;
+};
