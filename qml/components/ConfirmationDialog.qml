@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+
+// Asks before something is deleted. `confirmCallback` hears true for "Delete", false for "Cancel".
+ModalFrame {
+    id: root
+
+    property string title: qsTr("Confirm")
+    property string message: qsTr("Are you sure?")
+    property var confirmCallback: null
+
+    function finish(confirmed: bool): void {
+        root.close()
+        if (root.confirmCallback)
+            root.confirmCallback(confirmed)
+    }
+
+    width: 360
+    height: 180
+
+    enter: Transition {
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: 120 }
+        NumberAnimation { property: "scale"; from: 0.95; to: 1; duration: 120 }
+    }
+    exit: Transition {
+        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: 100 }
+    }
+
+    contentItem: ColumnLayout {
+        spacing: 15
+
+        PlainLabel {
+            Layout.fillWidth: true
+            elide: Text.ElideRight
+            font.bold: true
+            text: root.title
+        }
+
+        PlainLabel {
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            color: Theme.secondaryText
+            elide: Text.ElideRight
+            text: root.message
+            wrapMode: Text.WordWrap
+        }
+
+        RowLayout {
+            Layout.alignment: Qt.AlignRight
+
+            FilledButton {
+                fillColor: Theme.surface
+                font.bold: false
+                text: qsTr("Cancel")
+                textColor: Theme.text
+
+                onClicked: root.finish(false)
+            }
+
+            DangerButton {
+                fillColor: "#e53935"
+                // Whatever the title says, this component confirms a deletion.
+                text: qsTr("Delete")
+
+                onClicked: root.finish(true)
+            }
+        }
+    }
+}

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import zelvan.Theme 1.0
+
+// A flat button of one colour: the look of nearly every action. Takes neither hover nor focus.
+Button {
+    id: control
+
+    property color fillColor: Theme.surface
+    property color textColor: "white"
+    property color borderColor: "transparent"
+    property int radius: 4
+
+    focusPolicy: Qt.NoFocus
+    font.bold: true
+    font.pixelSize: Theme.fontNormal
+    hoverEnabled: false
+
+    contentItem: Text {
+        color: control.textColor
+        elide: Text.ElideRight
+        font: control.font
+        horizontalAlignment: Text.AlignHCenter
+        opacity: control.enabled ? 1 : 0.6
+        text: control.text
+        textFormat: Text.PlainText
+        verticalAlignment: Text.AlignVCenter
+    }
+    background: Rectangle {
+        border.color: control.borderColor
+        border.width: 1
+        color: control.down ? Qt.darker(control.fillColor, 1.1) : control.fillColor
+        opacity: control.enabled ? 1 : 0.5
+        radius: control.radius
+    }
+}

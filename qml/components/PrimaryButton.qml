@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import zelvan
+import zelvan.Theme 1.0
+
+// The action a screen is for.
+FilledButton {
+    fillColor: Theme.primary()
+}
