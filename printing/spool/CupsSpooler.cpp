@@ -1,0 +1,292 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "printing/spool/CupsSpooler.h"
+
+#include <QString>
+
+#include <cups/cups.h>
+
+#include <chrono>
+#include <span>
+
+namespace {
+using Clock = std::chrono::steady_clock;
+using namespace std::chrono_literals;
+
+/// Shorter than the two seconds promised, so that the log line falls inside them.
+constexpr auto patience = 1800ms;
+constexpr double secondsBetweenLooks = 0.1;
+
+std::string utf8(const std::u16string &text)
+{
+    return QString::fromStdU16String(text).toStdString();
+}
+
+std::u16string utf16(const char *text)
+{
+    return QString::fromUtf8(text).toStdU16String();
+}
+
+/// Nobody sits at a terminal to type a password; without this CUPS would wait for one.
+const char *noPassword(const char *, http_t *, const char *, const char *, void *)
+{
+    return nullptr;
+}
+
+bool isSuccess(ipp_status_t status)
+{
+    return status >= IPP_STATUS_OK && status <= IPP_STATUS_OK_EVENTS_COMPLETE;
+}
+
+/// Why CUPS refused: never a code of success, nor one left over from an earlier exchange.
+std::uint32_t refusal(bool alive)
+{
+    const ipp_status_t status = cupsLastError();
+    if (!alive) {
+        return IPP_STATUS_ERROR_SERVICE_UNAVAILABLE;
+    }
+    return static_cast<std::uint32_t>(isSuccess(status) ? IPP_STATUS_ERROR_INTERNAL : status);
+}
+} // namespace
+
+/// A connection that is given up when the server has shown no sign of life for as long as patience
+/// lasts. Nothing more is asked of it then, so that the wait is paid once.
+class CupsSpooler::Connection final
+{
+public:
+    Connection()
+        : m_http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                              static_cast<int>(patience.count()), nullptr))
+    {
+        if (m_http) {
+            httpSetTimeout(m_http, secondsBetweenLooks, &Connection::keepsWaiting, this);
+        }
+    }
+    ~Connection() { httpClose(m_http); }
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    [[nodiscard]] http_t *http() const { return m_http; }
+    [[nodiscard]] bool alive() const { return m_http && Clock::now() < m_deadline; }
+
+    /// Passes the outcome of an exchange on; any answer in time is a sign of life.
+    bool answered(bool succeeded)
+    {
+        if (!succeeded && httpError(m_http) != 0) {
+            m_deadline = Clock::now();
+        } else if (alive()) {
+            m_deadline = Clock::now() + patience;
+        }
+        return succeeded;
+    }
+
+private:
+    static int keepsWaiting(http_t *, void *self)
+    {
+        return Clock::now() < static_cast<Connection *>(self)->m_deadline ? 1 : 0;
+    }
+
+    Clock::time_point m_deadline = Clock::now() + patience;
+    http_t *m_http;
+};
+
+/// What an open handle stands for: a queue that exists, and at most one job on it.
+class CupsSpooler::Document final
+{
+public:
+    explicit Document(std::string queue)
+        : m_queue(std::move(queue))
+    {}
+
+    /// A question to the server, because a queue is otherwise not looked at before the job.
+    bool queueExists()
+    {
+        if (!m_connection.alive()) {
+            return false;
+        }
+        char uri[HTTP_MAX_URI];
+        httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof(uri), "ipp", nullptr, "localhost", 0,
+                         "/printers/%s", m_queue.c_str());
+        ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                     "printer-name");
+        ippDelete(cupsDoRequest(m_connection.http(), request, "/"));
+        return m_connection.answered(isSuccess(cupsLastError()));
+    }
+
+    std::uint32_t start(const char *title)
+    {
+        if (!m_connection.alive()) {
+            return 0;
+        }
+        http_t *http = m_connection.http();
+        m_job = cupsCreateJob(http, m_queue.c_str(), title, 0, nullptr);
+        if (!m_connection.answered(m_job > 0)) {
+            return 0;
+        }
+        m_started = cupsStartDocument(http, m_queue.c_str(), m_job, title, CUPS_FORMAT_RAW, 1) ==
+                    HTTP_STATUS_CONTINUE;
+        return m_connection.answered(m_started) ? static_cast<std::uint32_t>(m_job) : 0;
+    }
+
+    /// Leaves no job behind that would wait for its document for ever.
+    void cancel()
+    {
+        if (m_job > 0 && m_connection.alive()) {
+            m_connection.answered(
+                isSuccess(cupsCancelJob2(m_connection.http(), m_queue.c_str(), m_job, 0)));
+        }
+    }
+
+    [[nodiscard]] bool alive() const { return m_connection.alive(); }
+    [[nodiscard]] bool started() const { return m_started && m_connection.alive(); }
+
+    /// CUPS says only at the finish whether it has taken a document, so the one write of a job
+    /// finishes it: its answer is then the server's and not that of a buffer on our side.
+    bool write(const char *bytes, std::uint32_t count)
+    {
+        if (!started()) {
+            return false;
+        }
+        http_t *http = m_connection.http();
+        // Nothing is written for no bytes: an empty chunk would end the request.
+        const bool sent =
+            count == 0 || cupsWriteRequestData(http, bytes, count) == HTTP_STATUS_CONTINUE;
+        return m_connection.answered(sent) && finish();
+    }
+
+    /// True too when the write has finished the document already.
+    bool finish()
+    {
+        if (!started()) {
+            return !m_started;
+        }
+        m_started = false;
+        return m_connection.answered(
+            isSuccess(cupsFinishDocument(m_connection.http(), m_queue.c_str())));
+    }
+
+private:
+    std::string m_queue;
+    Connection m_connection;
+    int m_job = 0;
+    bool m_started = false;
+};
+
+CupsSpooler::CupsSpooler()
+{
+    cupsSetPasswordCB2(noPassword, nullptr);
+}
+
+CupsSpooler::~CupsSpooler() = default;
+
+bool CupsSpooler::openPrinter(const std::u16string &printerName, Handle &handle)
+{
+    auto opened = std::make_unique<Document>(utf8(printerName));
+    if (!noted(opened->queueExists(), opened->alive())) {
+        return false;
+    }
+    handle = ++m_lastHandle;
+    m_documents.emplace(handle, std::move(opened));
+    return true;
+}
+
+std::uint32_t CupsSpooler::startDocPrinter(Handle handle, const std::u16string &documentName)
+{
+    Document *const open = document(handle);
+    if (!open) {
+        return 0;
+    }
+    const std::uint32_t job = open->start(utf8(documentName).c_str());
+    if (!noted(job != 0, open->alive())) {
+        open->cancel();
+    }
+    return job;
+}
+
+bool CupsSpooler::startPagePrinter(Handle handle)
+{
+    // Raw jobs have no pages.
+    Document *const open = document(handle);
+    return open && noted(open->started(), open->alive());
+}
+
+bool CupsSpooler::writePrinter(Handle handle, const char *bytes, std::uint32_t count,
+                               std::uint32_t &written)
+{
+    Document *const open = document(handle);
+    const bool taken = open && noted(open->write(bytes, count), open->alive());
+    written = taken ? count : 0;
+    return taken;
+}
+
+bool CupsSpooler::endPagePrinter(Handle handle)
+{
+    return document(handle) != nullptr;
+}
+
+bool CupsSpooler::endDocPrinter(Handle handle)
+{
+    Document *const open = document(handle);
+    return open && noted(open->finish(), open->alive());
+}
+
+bool CupsSpooler::closePrinter(Handle handle)
+{
+    return m_documents.erase(handle) > 0;
+}
+
+bool CupsSpooler::enumPrinters(std::uint32_t size, std::uint32_t &needed,
+                               std::vector<PrinterInfo> &printers)
+{
+    if (size == 0) {
+        m_listed = listDestinations();
+        needed = m_listed ? static_cast<std::uint32_t>(m_destinations.size()) : 1;
+        return m_listed && m_destinations.empty();
+    }
+    printers = m_destinations;
+    return m_listed;
+}
+
+std::uint32_t CupsSpooler::getLastError() const
+{
+    return m_lastError;
+}
+
+CupsSpooler::Document *CupsSpooler::document(Handle handle) const
+{
+    const auto found = m_documents.find(handle);
+    return found == m_documents.end() ? nullptr : found->second.get();
+}
+
+bool CupsSpooler::listDestinations()
+{
+    m_destinations.clear();
+    Connection connection;
+    if (!noted(connection.alive(), false)) {
+        return false;
+    }
+    cups_dest_t *destinations = nullptr;
+    const int count = cupsGetDests2(connection.http(), &destinations);
+    for (const cups_dest_t &each : std::span(destinations, static_cast<std::size_t>(count))) {
+        // An instance is a user's set of options for a printer that is listed anyway.
+        if (!each.instance) {
+            const char *uri = cupsGetOption("device-uri", each.num_options, each.options);
+            m_destinations.push_back({utf16(each.name), utf16(uri ? uri : "")});
+        }
+    }
+    cupsFreeDests(count, destinations);
+    const bool answered =
+        count > 0 || isSuccess(cupsLastError()) || cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND;
+    return noted(answered, connection.alive());
+}
+
+/// Keeps the code of a failure at once, before another exchange overwrites it.
+bool CupsSpooler::noted(bool succeeded, bool alive)
+{
+    if (!succeeded) {
+        m_lastError = refusal(alive);
+    }
+    return succeeded;
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#pragma once
+
+#include "printing/spool/RawSpooler.h"
+
+#include <map>
+#include <memory>
+
+/// CUPS behind the Windows calls: an open printer is a connection to the server, a document is one
+/// raw job. Error codes are IPP status codes. A server that gives no sign of life for two seconds
+/// is taken for one that does not run.
+class CupsSpooler final : public RawSpooler
+{
+public:
+    CupsSpooler();
+    ~CupsSpooler() override;
+
+    bool openPrinter(const std::u16string &printerName, Handle &handle) override;
+    std::uint32_t startDocPrinter(Handle handle, const std::u16string &documentName) override;
+    bool startPagePrinter(Handle handle) override;
+    bool writePrinter(Handle handle, const char *bytes, std::uint32_t count,
+                      std::uint32_t &written) override;
+    bool endPagePrinter(Handle handle) override;
+    bool endDocPrinter(Handle handle) override;
+    bool closePrinter(Handle handle) override;
+    /// The size is counted in printers. When the server does not answer it is 1, so that the
+    /// second call is made and reports the failure.
+    bool enumPrinters(std::uint32_t size, std::uint32_t &needed,
+                      std::vector<PrinterInfo> &printers) override;
+    [[nodiscard]] std::uint32_t getLastError() const override;
+
+private:
+    class Connection;
+    class Document;
+
+    [[nodiscard]] Document *document(Handle handle) const;
+    bool listDestinations();
+    bool noted(bool succeeded, bool alive);
+
+    std::map<Handle, std::unique_ptr<Document>> m_documents;
+    Handle m_lastHandle = 0;
+    std::vector<PrinterInfo> m_destinations;
+    bool m_listed = false;
+    std::uint32_t m_lastError = 0;
+};
