@@ -4,6 +4,7 @@
 
 #include <QDebug>
 #include <QSqlError>
+#include <QSqlRecord>
 
 namespace {
 QString notNull(const QString &value)
@@ -59,6 +60,11 @@ bool Statement::run()
     return false;
 }
 
+int Statement::column(const char *name) const
+{
+    return m_query.record().indexOf(QLatin1String(name));
+}
+
 std::optional<QString> Statement::optionalText(int column) const
 {
     const QVariant value = m_query.value(column);
@@ -73,6 +79,9 @@ std::optional<int> Statement::optionalInteger(int column) const
 
 void Statement::report() const
 {
+    if (!m_report.text) {
+        return;
+    }
     const QSqlError error = m_query.lastError();
     const QLoggingCategory &category = m_report.category();
     const QMessageLogger logger(nullptr, 0, nullptr, category.categoryName());

@@ -4,12 +4,15 @@
 
 #include "core/Logging.h"
 
+#include <QList>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
 #include <QVariant>
 
 #include <optional>
+#include <tuple>
+#include <type_traits>
 
 /// How a failed statement is told in the log: the text, then the error.
 struct FailureReport
@@ -22,6 +25,7 @@ struct FailureReport
         Text,
     };
 
+    /// nullptr for operations whose failure leaves no line in the log.
     const char *text;
     const QLoggingCategory &(*category)() = lcDatabase;
     QtMsgType level = QtWarningMsg;
@@ -62,12 +66,29 @@ public:
     [[nodiscard]] bool run();
     [[nodiscard]] bool next() { return m_query.next(); }
 
+    /// Position of a column of a "SELECT *", -1 for an unknown one. Resolve once a result, after
+    /// `run`, never once a row.
+    [[nodiscard]] int column(const char *name) const;
+
     [[nodiscard]] int integer(int column) const { return m_query.value(column).toInt(); }
     [[nodiscard]] bool boolean(int column) const { return m_query.value(column).toBool(); }
     [[nodiscard]] double real(int column) const { return m_query.value(column).toDouble(); }
     [[nodiscard]] QString text(int column) const { return m_query.value(column).toString(); }
     [[nodiscard]] std::optional<QString> optionalText(int column) const;
     [[nodiscard]] std::optional<int> optionalInteger(int column) const;
+
+    /// Runs the statement and makes a record of every row; empty on failure.
+    template<typename Reader>
+    [[nodiscard]] auto rows(Reader read)
+    {
+        QList<std::invoke_result_t<Reader, const Statement &>> records;
+        if (run()) {
+            while (next()) {
+                records.append(read(*this));
+            }
+        }
+        return records;
+    }
 
     /// The id given by the last insert; 0 where there is none.
     [[nodiscard]] int insertedId() const { return m_query.lastInsertId().toInt(); }
