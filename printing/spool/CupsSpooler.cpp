@@ -7,14 +7,15 @@
 #include <cups/cups.h>
 
 #include <chrono>
-#include <span>
+#include <string_view>
+#include <utility>
 
 namespace {
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
 /// Shorter than the two seconds promised, so that the log line falls inside them.
-constexpr auto patience = 1800ms;
+constexpr auto patience = 1500ms;
 constexpr double secondsBetweenLooks = 0.1;
 
 std::string utf8(const std::u16string &text)
@@ -36,6 +37,28 @@ const char *noPassword(const char *, http_t *, const char *, const char *, void 
 bool isSuccess(ipp_status_t status)
 {
     return status >= IPP_STATUS_OK && status <= IPP_STATUS_OK_EVENTS_COMPLETE;
+}
+
+/// The queues of an answer, in its order; an attribute group is one queue.
+std::vector<RawSpooler::PrinterInfo> destinations(ipp_t *response)
+{
+    std::vector<RawSpooler::PrinterInfo> found;
+    RawSpooler::PrinterInfo queue;
+    for (ipp_attribute_t *each = ippFirstAttribute(response); each;
+         each = ippNextAttribute(response)) {
+        const std::string_view name = ippGetName(each) ? ippGetName(each) : "";
+        if (name == "printer-name") {
+            queue.printerName = utf16(ippGetString(each, 0, nullptr));
+        } else if (name == "device-uri") {
+            queue.portName = utf16(ippGetString(each, 0, nullptr));
+        } else if (name.empty() && !queue.printerName.empty()) {
+            found.push_back(std::exchange(queue, {}));
+        }
+    }
+    if (!queue.printerName.empty()) {
+        found.push_back(queue);
+    }
+    return found;
 }
 
 /// Why CUPS refused: never a code of success, nor one left over from an earlier exchange.
@@ -139,7 +162,7 @@ public:
         }
     }
 
-    [[nodiscard]] bool alive() const { return m_connection.alive(); }
+    [[nodiscard]] const Connection &connection() const { return m_connection; }
     [[nodiscard]] bool started() const { return m_started && m_connection.alive(); }
 
     /// CUPS says only at the finish whether it has taken a document, so the one write of a job
@@ -163,8 +186,10 @@ public:
             return !m_started;
         }
         m_started = false;
-        return m_connection.answered(
-            isSuccess(cupsFinishDocument(m_connection.http(), m_queue.c_str())));
+        http_t *http = m_connection.http();
+        const ipp_status_t status = cupsFinishDocument(http, m_queue.c_str());
+        // The status alone is still that of the last exchange when no answer came to this one.
+        return m_connection.answered(isSuccess(status) && httpGetStatus(http) == HTTP_STATUS_OK);
     }
 
 private:
@@ -184,7 +209,7 @@ CupsSpooler::~CupsSpooler() = default;
 bool CupsSpooler::openPrinter(const std::u16string &printerName, Handle &handle)
 {
     auto opened = std::make_unique<Document>(utf8(printerName));
-    if (!noted(opened->queueExists(), opened->alive())) {
+    if (!noted(opened->queueExists(), opened->connection())) {
         return false;
     }
     handle = ++m_lastHandle;
@@ -199,7 +224,7 @@ std::uint32_t CupsSpooler::startDocPrinter(Handle handle, const std::u16string &
         return 0;
     }
     const std::uint32_t job = open->start(utf8(documentName).c_str());
-    if (!noted(job != 0, open->alive())) {
+    if (!noted(job != 0, open->connection())) {
         open->cancel();
     }
     return job;
@@ -209,14 +234,14 @@ bool CupsSpooler::startPagePrinter(Handle handle)
 {
     // Raw jobs have no pages.
     Document *const open = document(handle);
-    return open && noted(open->started(), open->alive());
+    return open && noted(open->started(), open->connection());
 }
 
 bool CupsSpooler::writePrinter(Handle handle, const char *bytes, std::uint32_t count,
                                std::uint32_t &written)
 {
     Document *const open = document(handle);
-    const bool taken = open && noted(open->write(bytes, count), open->alive());
+    const bool taken = open && noted(open->write(bytes, count), open->connection());
     written = taken ? count : 0;
     return taken;
 }
@@ -229,7 +254,7 @@ bool CupsSpooler::endPagePrinter(Handle handle)
 bool CupsSpooler::endDocPrinter(Handle handle)
 {
     Document *const open = document(handle);
-    return open && noted(open->finish(), open->alive());
+    return open && noted(open->finish(), open->connection());
 }
 
 bool CupsSpooler::closePrinter(Handle handle)
@@ -260,33 +285,33 @@ CupsSpooler::Document *CupsSpooler::document(Handle handle) const
     return found == m_documents.end() ? nullptr : found->second.get();
 }
 
+/// One request for all queues: the ready-made call of CUPS makes several, each with a wait of its
+/// own, and goes looking on the network for printers that have no queue to print to.
 bool CupsSpooler::listDestinations()
 {
     m_destinations.clear();
     Connection connection;
-    if (!noted(connection.alive(), false)) {
+    if (!noted(connection.alive(), connection)) {
         return false;
     }
-    cups_dest_t *destinations = nullptr;
-    const int count = cupsGetDests2(connection.http(), &destinations);
-    for (const cups_dest_t &each : std::span(destinations, static_cast<std::size_t>(count))) {
-        // An instance is a user's set of options for a printer that is listed anyway.
-        if (!each.instance) {
-            const char *uri = cupsGetOption("device-uri", each.num_options, each.options);
-            m_destinations.push_back({utf16(each.name), utf16(uri ? uri : "")});
-        }
-    }
-    cupsFreeDests(count, destinations);
-    const bool answered =
-        count > 0 || isSuccess(cupsLastError()) || cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND;
-    return noted(answered, connection.alive());
+    static const char *const attributes[] = {"printer-name", "device-uri"};
+    ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", 2, nullptr,
+                  attributes);
+    ipp_t *response = cupsDoRequest(connection.http(), request, "/");
+    // Without any queue the server says "not found".
+    const ipp_status_t status = cupsLastError();
+    const bool answered = isSuccess(status) || status == IPP_STATUS_ERROR_NOT_FOUND;
+    m_destinations = destinations(response);
+    ippDelete(response);
+    return noted(connection.answered(answered), connection);
 }
 
 /// Keeps the code of a failure at once, before another exchange overwrites it.
-bool CupsSpooler::noted(bool succeeded, bool alive)
+bool CupsSpooler::noted(bool succeeded, const Connection &connection)
 {
     if (!succeeded) {
-        m_lastError = refusal(alive);
+        m_lastError = refusal(connection.alive());
     }
     return succeeded;
 }

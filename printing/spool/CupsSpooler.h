@@ -36,7 +36,7 @@ private:
 
     [[nodiscard]] Document *document(Handle handle) const;
     bool listDestinations();
-    bool noted(bool succeeded, bool alive);
+    bool noted(bool succeeded, const Connection &connection);
 
     std::map<Handle, std::unique_ptr<Document>> m_documents;
     Handle m_lastHandle = 0;

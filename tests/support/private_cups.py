@@ -5,10 +5,12 @@
 
     private_cups.py start DIR             starts the server; prints the value for CUPS_SERVER
     private_cups.py add DIR QUEUE PORT    a raw queue for a printer at 127.0.0.1:PORT
+    private_cups.py reject DIR QUEUE      the queue takes no more jobs
     private_cups.py stop DIR              stops the server, by its own process id
 
 Clients find the server through the printed value: CUPS_SERVER=DIR/cups.sock. A path of a socket may
-be 107 characters long at most, so DIR has to be short. The thermal printer to go with a queue is
+be 107 characters long at most, so DIR has to be short, and for root's server the folders above DIR
+have to let everybody through (mode 711; those of mkdtemp do not). The thermal printer to go with a queue is
 thermal_printer.py. Each command returns only when what it asks for is so, and fails after 20 seconds.
 """
 import os
@@ -86,10 +88,17 @@ def free_port():
         return probe.getsockname()[1]
 
 
+def refuse_locked(folder):
+    """A server of root runs its printers as another user, who must be able to walk in."""
+    locked = [str(each) for each in folder.parents if not each.stat().st_mode & 0o001]
+    if os.geteuid() == 0 and locked:
+        sys.exit(f"not to be entered by all: {locked[0]}")
+
+
 def start(folder):
     folder.mkdir(parents=True, exist_ok=True)
-    # The server runs its printer backends as another user, who must be able to walk in.
     folder.chmod(0o755)
+    refuse_locked(folder)
     for name in ("etc", "spool", "tmp", "cache", "state"):
         (folder / name).mkdir(exist_ok=True)
     values = {"folder": folder, "port": free_port()}
@@ -107,14 +116,16 @@ def start(folder):
     print(path, flush=True)
 
 
+def administer(name, folder, *arguments):
+    done = subprocess.run([tool(name), "-h", folder / "cups.sock", *arguments],
+                          capture_output=True, text=True, timeout=PATIENCE_SECONDS, check=False)
+    if done.returncode != 0:
+        sys.exit(f"{name} failed: {done.stderr}")
+
+
 def add(folder, queue, port):
     # lpadmin warns that raw queues are deprecated; they are what a thermal printer needs.
-    added = subprocess.run(
-        [tool("lpadmin"), "-h", folder / "cups.sock", "-p", queue, "-E",
-         "-v", f"socket://127.0.0.1:{port}", "-m", "raw"],
-        capture_output=True, text=True, timeout=PATIENCE_SECONDS, check=False)
-    if added.returncode != 0:
-        sys.exit(f"lpadmin failed: {added.stderr}")
+    administer("lpadmin", folder, "-p", queue, "-E", "-v", f"socket://127.0.0.1:{port}", "-m", "raw")
 
 
 def stop(folder):
@@ -122,6 +133,8 @@ def stop(folder):
     pid = int(note.read_text())
     try:
         os.kill(pid, signal.SIGTERM)
+        # A test may have halted it, and a halted process does not hear the first signal.
+        os.kill(pid, signal.SIGCONT)
         wait_until(lambda: not is_running(pid), f"cupsd {pid} does not end")
     except ProcessLookupError:
         pass
@@ -142,6 +155,8 @@ def main(arguments):
             start(pathlib.Path(folder).resolve())
         case ["add", folder, queue, port]:
             add(pathlib.Path(folder).resolve(), queue, int(port))
+        case ["reject", folder, queue]:
+            administer("cupsreject", pathlib.Path(folder).resolve(), queue)
         case ["stop", folder]:
             stop(pathlib.Path(folder).resolve())
         case _:

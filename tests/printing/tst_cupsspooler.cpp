@@ -1,0 +1,283 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "printing/spool/CupsSpooler.h"
+#include "support/PrivateCups.h"
+#include "support/ZelvanTest.h"
+
+#include <QElapsedTimer>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+#include <cups/cups.h>
+
+#include <csignal>
+
+namespace {
+const char16_t *const documentName = u"Zelvan Receipt/Kitchen Ticket";
+constexpr int promisedMs = 2000;
+
+void useServer(quint16 port)
+{
+    cupsSetServer(QByteArray("127.0.0.1:" + QByteArray::number(port)).constData());
+}
+
+/// A port on which nobody listens: it was free a moment ago.
+quint16 deadPort()
+{
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    return server.serverPort();
+}
+
+QByteArray everyByteTwice()
+{
+    QByteArray bytes;
+    for (int i = 0; i < 512; ++i) {
+        bytes.append(static_cast<char>(i % 256));
+    }
+    return bytes;
+}
+} // namespace
+
+/// Against a real server and a real queue, as on the counter.
+class tst_CupsSpooler : public ZelvanTest
+{
+    Q_OBJECT
+
+private slots:
+    void aDocumentReachesThePrinterToTheByte_data();
+    void aDocumentReachesThePrinterToTheByte();
+    void theServerKnowsTheDocumentByItsName();
+    void queuesAreListedWithTheirDevices();
+    void aServerWithoutAQueueNeedsNoBuffer();
+    void aQueueThatDoesNotExistIsRefusedAtTheOpen();
+    void aQueueThatRejectsJobsIsRefusedAtTheStart();
+    void aServerThatDoesNotRunIsAnError();
+    void aServerThatNeverAnswersIsAnErrorInTwoSeconds();
+    void aServerKilledBeforeTheWriteIsAnError();
+    void aServerThatHangsBeforeTheWriteCostsOneWait();
+
+private:
+    /// Opens the printer and starts a document on it.
+    static RawSpooler::Handle started(CupsSpooler &spooler);
+};
+
+RawSpooler::Handle tst_CupsSpooler::started(CupsSpooler &spooler)
+{
+    RawSpooler::Handle handle = 0;
+    if (!spooler.openPrinter(u"TM88", handle) ||
+        spooler.startDocPrinter(handle, documentName) == 0 || !spooler.startPagePrinter(handle)) {
+        return 0;
+    }
+    return handle;
+}
+
+void tst_CupsSpooler::aDocumentReachesThePrinterToTheByte_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::newRow("a line") << QByteArray("\x1B\x40Hello\n");
+    QTest::newRow("every byte") << everyByteTwice();
+    QTest::newRow("looks like a picture") << QByteArray("%PDF-1.4\n%!PS-Adobe\n\x89PNG\r\n");
+    QTest::newRow("200 KB") << everyByteTwice().repeated(400);
+}
+
+void tst_CupsSpooler::aDocumentReachesThePrinterToTheByte()
+{
+    QFETCH(QByteArray, bytes);
+    PrivateCups cups;
+    ThermalPrinter printer;
+    QVERIFY(cups.start());
+    QVERIFY(cups.addQueue(QStringLiteral("TM88"), printer.port()));
+
+    CupsSpooler spooler;
+    const RawSpooler::Handle handle = started(spooler);
+    QVERIFY(handle != 0);
+    std::uint32_t written = 0;
+    const auto size = static_cast<std::uint32_t>(bytes.size());
+    QVERIFY(spooler.writePrinter(handle, bytes.constData(), size, written));
+    QVERIFY(spooler.endPagePrinter(handle));
+    QVERIFY(spooler.endDocPrinter(handle));
+    QVERIFY(spooler.closePrinter(handle));
+
+    QCOMPARE(written, size);
+    QCOMPARE(printer.nextDocument(), bytes);
+}
+
+void tst_CupsSpooler::theServerKnowsTheDocumentByItsName()
+{
+    PrivateCups cups;
+    ThermalPrinter printer;
+    QVERIFY(cups.start());
+    QVERIFY(cups.addQueue(QStringLiteral("TM88"), printer.port()));
+
+    CupsSpooler spooler;
+    const RawSpooler::Handle handle = started(spooler);
+    std::uint32_t written = 0;
+    QVERIFY(spooler.writePrinter(handle, "x", 1, written));
+    spooler.closePrinter(handle);
+
+    cups_job_t *jobs = nullptr;
+    QCOMPARE(cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, "TM88", 0, CUPS_WHICHJOBS_ALL), 1);
+    QCOMPARE(QByteArray(jobs[0].title), QByteArray("Zelvan Receipt/Kitchen Ticket"));
+    cupsFreeJobs(1, jobs);
+}
+
+void tst_CupsSpooler::queuesAreListedWithTheirDevices()
+{
+    PrivateCups cups;
+    QVERIFY(cups.start());
+    QVERIFY(cups.addQueue(QStringLiteral("Kitchen"), 9101));
+    QVERIFY(cups.addQueue(QStringLiteral("TM88"), 9100));
+
+    CupsSpooler spooler;
+    std::uint32_t needed = 0;
+    std::vector<RawSpooler::PrinterInfo> printers;
+    QVERIFY(!spooler.enumPrinters(0, needed, printers));
+    QVERIFY(needed > 0);
+    QVERIFY(spooler.enumPrinters(needed, needed, printers));
+
+    QCOMPARE(printers.size(), 2u);
+    QCOMPARE(QString::fromStdU16String(printers[0].printerName), QStringLiteral("Kitchen"));
+    QCOMPARE(QString::fromStdU16String(printers[0].portName),
+             QStringLiteral("socket://127.0.0.1:9101"));
+    QCOMPARE(QString::fromStdU16String(printers[1].printerName), QStringLiteral("TM88"));
+    QCOMPARE(QString::fromStdU16String(printers[1].portName),
+             QStringLiteral("socket://127.0.0.1:9100"));
+}
+
+void tst_CupsSpooler::aServerWithoutAQueueNeedsNoBuffer()
+{
+    PrivateCups cups;
+    QVERIFY(cups.start());
+
+    CupsSpooler spooler;
+    std::uint32_t needed = 7;
+    std::vector<RawSpooler::PrinterInfo> printers;
+    spooler.enumPrinters(0, needed, printers);
+
+    QCOMPARE(needed, 0u);
+}
+
+void tst_CupsSpooler::aQueueThatDoesNotExistIsRefusedAtTheOpen()
+{
+    PrivateCups cups;
+    QVERIFY(cups.start());
+
+    CupsSpooler spooler;
+    RawSpooler::Handle handle = 0;
+    QVERIFY(!spooler.openPrinter(u"Gone", handle));
+
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_NOT_FOUND));
+}
+
+void tst_CupsSpooler::aQueueThatRejectsJobsIsRefusedAtTheStart()
+{
+    PrivateCups cups;
+    QVERIFY(cups.start());
+    QVERIFY(cups.addQueue(QStringLiteral("TM88"), 9100));
+    QVERIFY(cups.rejectJobs(QStringLiteral("TM88")));
+
+    CupsSpooler spooler;
+    RawSpooler::Handle handle = 0;
+    QVERIFY(spooler.openPrinter(u"TM88", handle));
+    QCOMPARE(spooler.startDocPrinter(handle, documentName), 0u);
+
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS));
+}
+
+void tst_CupsSpooler::aServerThatDoesNotRunIsAnError()
+{
+    useServer(deadPort());
+    CupsSpooler spooler;
+    QElapsedTimer clock;
+
+    clock.start();
+    RawSpooler::Handle handle = 0;
+    QVERIFY(!spooler.openPrinter(u"TM88", handle));
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+    QVERIFY(clock.elapsed() < promisedMs);
+
+    clock.start();
+    std::uint32_t needed = 0;
+    std::vector<RawSpooler::PrinterInfo> printers;
+    spooler.enumPrinters(0, needed, printers);
+    QVERIFY(needed != 0);
+    QVERIFY(!spooler.enumPrinters(needed, needed, printers));
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+    QVERIFY(clock.elapsed() < promisedMs);
+}
+
+void tst_CupsSpooler::aServerThatNeverAnswersIsAnErrorInTwoSeconds()
+{
+    QTcpServer silent;
+    QVERIFY(silent.listen(QHostAddress::LocalHost));
+    useServer(silent.serverPort());
+    CupsSpooler spooler;
+    QElapsedTimer clock;
+
+    clock.start();
+    RawSpooler::Handle handle = 0;
+    QVERIFY(!spooler.openPrinter(u"TM88", handle));
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+    QVERIFY2(clock.elapsed() < promisedMs, qPrintable(QString::number(clock.elapsed())));
+
+    clock.start();
+    std::uint32_t needed = 0;
+    std::vector<RawSpooler::PrinterInfo> printers;
+    spooler.enumPrinters(0, needed, printers);
+    QVERIFY(needed != 0);
+    QVERIFY(!spooler.enumPrinters(needed, needed, printers));
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+    QVERIFY2(clock.elapsed() < promisedMs, qPrintable(QString::number(clock.elapsed())));
+}
+
+void tst_CupsSpooler::aServerKilledBeforeTheWriteIsAnError()
+{
+    PrivateCups cups;
+    QVERIFY(cups.start());
+    QVERIFY(cups.addQueue(QStringLiteral("TM88"), 9100));
+    CupsSpooler spooler;
+    const RawSpooler::Handle handle = started(spooler);
+    QVERIFY(handle != 0);
+    QElapsedTimer clock;
+
+    clock.start();
+    cups.signalServer(SIGKILL);
+    std::uint32_t written = 1;
+    QVERIFY(!spooler.writePrinter(handle, "x", 1, written));
+    QCOMPARE(written, 0u);
+    QVERIFY(spooler.getLastError() != 0);
+    spooler.endPagePrinter(handle);
+    spooler.endDocPrinter(handle);
+    QVERIFY(spooler.closePrinter(handle));
+
+    QVERIFY2(clock.elapsed() < promisedMs, qPrintable(QString::number(clock.elapsed())));
+}
+
+void tst_CupsSpooler::aServerThatHangsBeforeTheWriteCostsOneWait()
+{
+    PrivateCups cups;
+    QVERIFY(cups.start());
+    QVERIFY(cups.addQueue(QStringLiteral("TM88"), 9100));
+    CupsSpooler spooler;
+    const RawSpooler::Handle handle = started(spooler);
+    QVERIFY(handle != 0);
+    QElapsedTimer clock;
+
+    clock.start();
+    cups.signalServer(SIGSTOP);
+    std::uint32_t written = 1;
+    QVERIFY(!spooler.writePrinter(handle, "x", 1, written));
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+    spooler.endPagePrinter(handle);
+    spooler.endDocPrinter(handle);
+    QVERIFY(spooler.closePrinter(handle));
+    const qint64 elapsed = clock.elapsed();
+    cups.signalServer(SIGCONT);
+
+    QVERIFY2(elapsed < promisedMs, qPrintable(QString::number(elapsed)));
+}
+
+ZELVAN_TEST(tst_CupsSpooler)
+#include "tst_cupsspooler.moc"
