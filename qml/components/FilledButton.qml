@@ -11,28 +11,32 @@ Button {
     property color fillColor: Theme.surface
     property color textColor: "white"
     property color borderColor: "transparent"
+    property int borderWidth: 1
     property int radius: 4
+    // A button that shows its being disabled by its colours is not dimmed on top.
+    property bool dimmed: !enabled
 
     focusPolicy: Qt.NoFocus
     font.bold: true
     font.pixelSize: Theme.fontNormal
     hoverEnabled: false
+    padding: 8
 
     contentItem: Text {
         color: control.textColor
         elide: Text.ElideRight
         font: control.font
         horizontalAlignment: Text.AlignHCenter
-        opacity: control.enabled ? 1 : 0.6
+        opacity: control.dimmed ? 0.6 : 1
         text: control.text
         textFormat: Text.PlainText
         verticalAlignment: Text.AlignVCenter
     }
     background: Rectangle {
         border.color: control.borderColor
-        border.width: 1
+        border.width: control.borderWidth
         color: control.down ? Qt.darker(control.fillColor, 1.1) : control.fillColor
-        opacity: control.enabled ? 1 : 0.5
+        opacity: control.dimmed ? 0.5 : 1
         radius: control.radius
     }
 }

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+import Zelvan.Services 1.0
+
+// The kitchen's board: new, prepared and ready orders, each card with the one step it can take.
+Rectangle {
+    id: root
+
+    property var pendingOrders: []
+    property var preparingOrders: []
+    property var readyOrders: []
+
+    function loadOrders() {
+        pendingOrders = root.fresh("pending", root.pendingOrders)
+        preparingOrders = root.fresh("in_progress", root.preparingOrders)
+        readyOrders = root.fresh("ready", root.readyOrders)
+    }
+
+    // A column that did not change keeps its cards, so that the poll takes no button from under a
+    // finger and no list jumps back to its top.
+    function fresh(status: string, shown: var): var {
+        const orders = KitchenOrderService.getOrdersByStatus(status)
+        return JSON.stringify(orders) === JSON.stringify(shown) ? shown : orders
+    }
+
+    implicitWidth: 1200
+    implicitHeight: 600
+    color: Theme.background
+
+    component KitchenColumn: ColumnLayout {
+        id: column
+
+        property string title
+        property var model: []
+        property string actionText
+        property string nextState
+
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        Layout.preferredWidth: 1
+        spacing: 12
+
+        PlainLabel {
+            text: column.title
+            font.bold: true
+            font.pixelSize: Theme.fontLarge
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 2
+            color: Theme.primary()
+        }
+
+        ListView {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            clip: true
+            spacing: 12
+            model: column.model
+
+            Accessible.role: Accessible.List
+            Accessible.name: column.title
+
+            delegate: KitchenCard {
+                required property var modelData
+
+                width: ListView.view.width
+                order: modelData
+                noteTitle: qsTr("NOTE: ")
+                actionText: column.actionText
+                onActed: KitchenOrderService.markState(order.id, column.nextState)
+            }
+        }
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.margins: 16
+        spacing: 16
+
+        KitchenColumn {
+            title: qsTr("NEW")
+            model: root.pendingOrders
+            actionText: qsTr("START")
+            nextState: "in_progress"
+        }
+
+        KitchenColumn {
+            title: qsTr("PREPARING")
+            model: root.preparingOrders
+            actionText: qsTr("MARK READY")
+            nextState: "ready"
+        }
+
+        KitchenColumn {
+            title: qsTr("READY")
+            model: root.readyOrders
+            actionText: qsTr("SERVE")
+            nextState: "served"
+        }
+    }
+
+    // Brings in what other pages and other computers' programs changed.
+    Timer {
+        interval: 1000
+        repeat: true
+        running: true
+        onTriggered: root.loadOrders()
+    }
+
+    Connections {
+        target: KitchenOrderService
+
+        function onOrdersChanged() {
+            root.loadOrders()
+        }
+    }
+
+    Component.onCompleted: loadOrders()
+}

@@ -1,0 +1,323 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+import Zelvan.Services 1.0
+import "../components/OrderLines.js" as OrderLines
+
+// The order page of a store without a floor plan: one screen to take orders and, where the
+// settings allow it, to edit those of the day.
+Item {
+    id: root
+
+    // "dine_in", "takeaway", "delivery", or empty while none is chosen.
+    property string currentOrderType: ""
+    property int selectedTableId: -1
+    // The order loaded for editing.
+    property int currentOrderId: -1
+    // A preview in currency units without tax; the stored totals are the checkout's.
+    property real subtotal: 0
+    property real total: 0
+    property real discount: 0
+    property int totalItems: 0
+    property bool showEditOrdersList: false
+    property var editOrdersList: []
+    // The kitchen's settings are read once: a change takes effect with the next page.
+    property var kitchenSettings: ({})
+    property bool allowEditAfterSend: false
+    property string currencySymbol: ""
+
+    function changeOrderType(orderType: string) {
+        currentOrderType = orderType
+    }
+
+    function recomputeMeta() {
+        const sums = OrderLines.sums(orderModel)
+        subtotal = sums.subtotal
+        totalItems = sums.quantity
+        discount = 0
+        total = subtotal - discount
+    }
+
+    function newOrder() {
+        orderModel.clear()
+        currentOrderId = -1
+        currentOrderType = ""
+        selectedTableId = -1
+        showEditOrdersList = false
+    }
+
+    // Lines keyed in so far stay until an order is picked.
+    function showOpenOrders() {
+        editOrdersList = OrderService.getOpenOrders()
+        showEditOrdersList = true
+    }
+
+    function editOrder(order: var) {
+        showEditOrdersList = false
+        currentOrderId = order.id
+        currentOrderType = order.type
+        selectedTableId = order.table_id ?? -1
+        reloadOrder()
+    }
+
+    function reloadOrder() {
+        orderModel.clear()
+        for (const line of OrderService.getOrderItems(currentOrderId))
+            orderModel.append({
+                orderItemId: line.id,
+                menuItemId: line.item_id,
+                name: line.item_name,
+                qty: line.quantity,
+                price: line.price,
+                notes: line.notes || ""
+            })
+    }
+
+    // The answer is not looked at: the page resets after a refused order as after a good one,
+    // which is meant. The null table is what frees a table when an order leaves dine-in.
+    function sendOrder() {
+        if (orderModel.count === 0)
+            return
+        const items = OrderLines.collect(orderModel)
+        const options = { tableId: currentOrderType === "dine_in" ? selectedTableId : null, notes: "" }
+        if (currentOrderId >= 0)
+            OrderService.updateOrder(currentOrderId, currentOrderType, items, options)
+        else
+            OrderService.createOrder(currentOrderType, items, options)
+        orderModel.clear()
+        currentOrderType = ""
+        selectedTableId = -1
+        currentOrderId = -1
+    }
+
+    function money(amount: real): string {
+        return currencySymbol + amount.toFixed(2)
+    }
+
+    implicitWidth: 800
+    implicitHeight: 600
+
+    component ActionButton: FilledButton {
+        padding: 12
+        topPadding: 10
+        bottomPadding: 10
+    }
+
+    component TypeButton: ChoiceButton {
+        required property string value
+
+        Layout.fillWidth: true
+        Layout.preferredWidth: 1
+        padding: 15
+        checked: root.currentOrderType === value
+        onClicked: root.changeOrderType(value)
+    }
+
+    ListModel {
+        id: orderModel
+
+        onCountChanged: root.recomputeMeta()
+        onDataChanged: root.recomputeMeta()
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 8
+
+        RowLayout {
+            Layout.fillWidth: true
+            spacing: 0
+
+            TypeButton {
+                value: "dine_in"
+                text: qsTr("Dine In")
+            }
+
+            TypeButton {
+                value: "takeaway"
+                text: qsTr("Takeaway")
+            }
+
+            TypeButton {
+                value: "delivery"
+                text: qsTr("Delivery")
+            }
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            spacing: 8
+
+            CategoryList {
+                title: qsTr("Categories")
+                rowSpacing: 0
+            }
+
+            MenuItemList {
+                Layout.preferredWidth: 1
+                title: qsTr("Menu Items")
+                noCategoryTitle: qsTr("Select a category")
+                itemTitle: qsTr("Item")
+                priceTitle: qsTr("Price")
+                portionTitle: qsTr("Portion")
+                unavailableText: qsTr("Unavailable")
+                addText: qsTr("Add")
+                currencySymbol: root.currencySymbol
+                rowHeight: 44
+                addSidePadding: 15
+                addEndPadding: 5
+                onAddRequested: (menuItemId, name, price) => OrderLines.add(orderModel, menuItemId, name, price)
+            }
+
+            Rectangle {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Layout.preferredWidth: 1
+                radius: 6
+                color: Theme.background
+
+                ColumnLayout {
+                    anchors.fill: parent
+                    spacing: 2
+
+                    RowLayout {
+                        spacing: 8
+
+                        ActionButton {
+                            text: qsTr("New Order")
+                            fillColor: "#4faba1"
+                            onClicked: root.newOrder()
+                        }
+
+                        ActionButton {
+                            visible: root.allowEditAfterSend
+                            text: qsTr("Edit Order")
+                            fillColor: "#5F7DDC"
+                            onClicked: root.showOpenOrders()
+                        }
+
+                        ActionButton {
+                            visible: root.currentOrderId >= 0 && root.kitchenSettings.ticket_print_timing === "manual"
+                            text: qsTr("Print Ticket")
+                            fillColor: Theme.primary()
+                            onClicked: OrderService.printKitchenTicket(root.currentOrderId)
+                        }
+                    }
+
+                    PageHeading {
+                        visible: !root.showEditOrdersList
+                        text: qsTr("Current Order")
+                    }
+
+                    TableGrid {
+                        Layout.fillWidth: true
+                        visible: root.currentOrderType === "dine_in" && !root.showEditOrdersList
+                        title: qsTr("Table")
+                        selectedTableId: root.selectedTableId
+                        onTableClicked: tableId => {
+                            if (root.currentOrderType === "dine_in")
+                                root.selectedTableId = tableId
+                        }
+                    }
+
+                    ListView {
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                        visible: !root.showEditOrdersList
+                        clip: true
+                        spacing: 2
+                        // Far rows stay made, so that a remark typed into one is still shown there.
+                        cacheBuffer: 4000
+                        model: orderModel
+
+                        Accessible.role: Accessible.List
+                        Accessible.name: qsTr("Current Order")
+
+                        delegate: OrderLineRow {
+                            required property var model
+
+                            width: ListView.view.width
+                            height: 56
+                            name: model.name
+                            price: root.money(model.price)
+                            quantity: model.qty
+                            removeText: qsTr("Remove")
+                            remarkPlaceholder: qsTr("Add a remark")
+                            onStepped: quantity => orderModel.setProperty(model.index, "qty", quantity)
+                            onRemarkEdited: remark => orderModel.setProperty(model.index, "notes", remark)
+                            onRemoveRequested: orderModel.remove(model.index)
+                        }
+                    }
+
+                    ListView {
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                        visible: root.showEditOrdersList
+                        clip: true
+                        reuseItems: true
+                        spacing: 2
+                        model: root.editOrdersList
+
+                        Accessible.role: Accessible.List
+                        Accessible.name: qsTr("Edit Order")
+
+                        delegate: OpenOrderRow {
+                            required property var modelData
+
+                            width: ListView.view.width
+                            order: modelData
+                            onClicked: root.editOrder(order)
+                        }
+                    }
+
+                    ColumnLayout {
+                        Layout.fillWidth: true
+                        Layout.leftMargin: 8
+                        visible: !root.showEditOrdersList
+                        spacing: 4
+
+                        FigureRow {
+                            caption: qsTr("Total Items:")
+                            figure: root.totalItems
+                        }
+
+                        FigureRow {
+                            caption: qsTr("Subtotal:")
+                            figure: root.money(root.subtotal)
+                        }
+
+                        FigureRow {
+                            caption: qsTr("Total:")
+                            figure: root.money(root.total)
+                        }
+                    }
+
+                    // An order without a type passes, which is meant: it is stored with none and no
+                    // table.
+                    PrimaryButton {
+                        Layout.fillWidth: true
+                        Layout.topMargin: 15
+                        visible: !root.showEditOrdersList
+                        padding: 15
+                        enabled: orderModel.count > 0 && (root.currentOrderType !== "dine_in" || root.selectedTableId !== -1)
+                        text: root.currentOrderId >= 0 ? qsTr("Edit Order") : qsTr("Place Order")
+                        onClicked: root.sendOrder()
+                    }
+                }
+            }
+        }
+    }
+
+    Component.onCompleted: {
+        currencySymbol = SettingService.currencySymbol()
+        recomputeMeta()
+        kitchenSettings = SettingService.getKitchenSettings()
+        if (kitchenSettings.allow_edit_after_send !== undefined)
+            allowEditAfterSend = kitchenSettings.allow_edit_after_send
+    }
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+import Zelvan.Services 1.0
+
+// The menu's categories at the left of an order screen. The choice is shared by all screens.
+Item {
+    id: root
+
+    required property string title
+    property int rowSpacing: 4
+
+    Layout.preferredWidth: 220
+    Layout.fillHeight: true
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: 16
+        spacing: 12
+
+        PlainLabel {
+            text: root.title
+            font.bold: true
+        }
+
+        ListView {
+            id: list
+
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            clip: true
+            reuseItems: true
+            spacing: root.rowSpacing
+            model: MenuService.categoryModel
+
+            Accessible.role: Accessible.List
+            Accessible.name: root.title
+
+            delegate: CategoryRow {
+                required property var model
+
+                width: ListView.view.width
+                text: model.name
+                selected: model.id === MenuService.currentCategoryId
+                onClicked: MenuService.currentCategoryId = model.id
+            }
+        }
+    }
+}

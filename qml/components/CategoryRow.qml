@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import zelvan
+import zelvan.Theme 1.0
+
+// One category to choose.
+Rectangle {
+    id: root
+
+    required property string text
+    required property bool selected
+
+    signal clicked
+
+    implicitHeight: 44
+    radius: 4
+    color: selected ? Theme.primary() : "transparent"
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: text
+    Accessible.selected: selected
+    Accessible.onPressAction: root.clicked()
+
+    PlainLabel {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.text
+        color: root.selected ? "white" : Theme.text
+        elide: Text.ElideRight
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        onClicked: root.clicked()
+    }
+}

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+import Zelvan.Services 1.0
+
+// The items of the chosen category in the middle of an order screen. The texts are the screen's,
+// so that they are translated with it.
+Item {
+    id: root
+
+    required property string title
+    required property string noCategoryTitle
+    required property string itemTitle
+    required property string priceTitle
+    required property string portionTitle
+    required property string unavailableText
+    required property string addText
+    required property string currencySymbol
+    property int rowHeight: 50
+    property int addSidePadding: 8
+    property int addEndPadding: 6
+    readonly property bool chosen: MenuService.currentCategoryId !== -1
+
+    signal addRequested(int menuItemId, string name, real price)
+
+    Layout.fillWidth: true
+    Layout.fillHeight: true
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: 16
+        spacing: 12
+
+        PlainLabel {
+            text: root.chosen ? root.title : root.noCategoryTitle
+            font.bold: true
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 36
+            visible: root.chosen
+            spacing: 8
+
+            TableHeaderLabel {
+                Layout.fillWidth: true
+                text: root.itemTitle
+            }
+
+            TableHeaderLabel {
+                Layout.preferredWidth: 70
+                text: root.priceTitle
+            }
+
+            TableHeaderLabel {
+                Layout.preferredWidth: 100
+                text: root.portionTitle
+            }
+
+            Item {
+                Layout.preferredWidth: 60
+            }
+        }
+
+        ListView {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            visible: root.chosen
+            clip: true
+            reuseItems: true
+            spacing: 4
+            model: MenuService.menuItemModel
+
+            Accessible.role: Accessible.List
+            Accessible.name: root.title
+
+            delegate: MenuItemRow {
+                required property var model
+
+                width: ListView.view.width
+                height: root.rowHeight
+                name: model.item
+                price: root.currencySymbol + model.price.toFixed(2)
+                portion: model.portion
+                available: model.available
+                unavailableText: root.unavailableText
+                addText: root.addText
+                addSidePadding: root.addSidePadding
+                addEndPadding: root.addEndPadding
+                onAddRequested: root.addRequested(model.id, model.item, model.price)
+            }
+        }
+
+        Item {
+            Layout.fillHeight: true
+            visible: !root.chosen
+        }
+    }
+}

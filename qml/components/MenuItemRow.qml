@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+
+// One item of the menu with the button that puts it into the order.
+RowLayout {
+    id: root
+
+    required property string name
+    required property string price
+    required property string portion
+    required property bool available
+    required property string unavailableText
+    required property string addText
+    required property int addSidePadding
+    required property int addEndPadding
+    readonly property color textColor: available ? Theme.text : Theme.secondaryText
+
+    signal addRequested
+
+    spacing: 8
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: name
+
+    ColumnLayout {
+        Layout.fillWidth: true
+        Layout.minimumWidth: 40
+        spacing: 0
+
+        PlainLabel {
+            Layout.fillWidth: true
+            text: root.name
+            color: root.textColor
+            elide: Text.ElideRight
+        }
+
+        PlainLabel {
+            visible: !root.available
+            text: root.unavailableText
+            color: "red"
+            font.pixelSize: Theme.fontSmall
+        }
+    }
+
+    PlainLabel {
+        Layout.preferredWidth: 70
+        text: root.price
+        color: root.textColor
+        elide: Text.ElideRight
+    }
+
+    PlainLabel {
+        Layout.preferredWidth: 100
+        text: root.portion || "-"
+        color: root.textColor
+        elide: Text.ElideRight
+    }
+
+    FilledButton {
+        Layout.preferredWidth: Math.max(60, implicitWidth)
+        enabled: root.available
+        dimmed: false
+        text: root.addText
+        fillColor: root.available ? Theme.primary() : Theme.secondaryText
+        leftPadding: root.addSidePadding
+        rightPadding: root.addSidePadding
+        topPadding: root.addEndPadding
+        bottomPadding: root.addEndPadding
+        onClicked: root.addRequested()
+    }
+}

@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+import Zelvan.Services 1.0
+import "OrderLines.js" as OrderLines
+
+// A page for keying in one order whose table or type is settled already. Made anew for each push
+// it leaves the stack when the order is sent.
+Rectangle {
+    id: root
+
+    property int tableId: -1
+    property string tableLabel: ""
+    // 0 or more: that order is replaced rather than a new one made.
+    property int currentOrderId: -1
+    property string orderType: "dine_in"
+    // A preview in currency units without tax; the stored totals are the checkout's.
+    property real subtotal: 0
+    property real total: 0
+    property real discount: 0
+    property int totalItems: 0
+    property var kitchenSettings: ({})
+    property string currencySymbol: ""
+
+    function recomputeMeta() {
+        const sums = OrderLines.sums(orderModel)
+        subtotal = sums.subtotal
+        totalItems = sums.quantity
+        discount = 0
+        total = subtotal - discount
+    }
+
+    // The answer is not looked at: a refused order leaves the page like a good one, which is meant.
+    function sendOrder() {
+        if (orderModel.count === 0)
+            return
+        const options = { notes: "" }
+        if (orderType === "dine_in")
+            options.tableId = tableId
+        const items = OrderLines.collect(orderModel)
+        if (currentOrderId >= 0)
+            OrderService.updateOrder(currentOrderId, orderType, items, options)
+        else
+            currentOrderId = OrderService.createOrder(orderType, items, options)
+        orderModel.clear()
+        leave()
+    }
+
+    function leave() {
+        if (root.StackView.view) {
+            root.StackView.view.pop()
+            return
+        }
+        let item = root.parent
+        while (item && !(item instanceof StackView))
+            item = item.parent
+        if (item)
+            item.pop()
+    }
+
+    function money(amount: real): string {
+        return currencySymbol + amount.toFixed(2)
+    }
+
+    implicitWidth: 800
+    implicitHeight: 600
+    color: Theme.background
+
+    ListModel {
+        id: orderModel
+
+        onCountChanged: root.recomputeMeta()
+        onDataChanged: root.recomputeMeta()
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: 8
+        spacing: 8
+
+        OrderEditorHeader {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 64
+            backText: qsTr("Back")
+            title: {
+                if (root.orderType === "takeaway")
+                    return qsTr("Takeaway Order")
+                return root.orderType === "delivery" ? qsTr("Delivery Order") : root.tableLabel
+            }
+            subtitle: {
+                if (root.orderType === "takeaway")
+                    return qsTr("Takeaway")
+                return root.orderType === "delivery" ? qsTr("Delivery") : qsTr("Dine In")
+            }
+            onBackRequested: root.leave()
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            spacing: 8
+
+            CategoryList {
+                title: qsTr("Categories")
+            }
+
+            MenuItemList {
+                title: qsTr("Menu Items")
+                noCategoryTitle: qsTr("Select a category")
+                itemTitle: qsTr("Item")
+                priceTitle: qsTr("Price")
+                portionTitle: qsTr("Portion")
+                unavailableText: qsTr("Unavailable")
+                addText: qsTr("Add")
+                currencySymbol: root.currencySymbol
+                onAddRequested: (menuItemId, name, price) => OrderLines.add(orderModel, menuItemId, name, price)
+            }
+
+            Item {
+                Layout.preferredWidth: 420
+                Layout.fillHeight: true
+
+                ColumnLayout {
+                    anchors.fill: parent
+                    anchors.margins: 16
+                    spacing: 10
+
+                    PageHeading {
+                        text: qsTr("Current Order")
+                    }
+
+                    ListView {
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                        clip: true
+                        spacing: 6
+                        model: orderModel
+
+                        Accessible.role: Accessible.List
+                        Accessible.name: qsTr("Current Order")
+
+                        delegate: OrderLineRow {
+                            required property var model
+
+                            width: ListView.view.width
+                            height: 64
+                            name: model.name
+                            price: root.money(model.price)
+                            quantity: model.qty
+                            removeText: qsTr("Remove")
+                            onStepped: quantity => orderModel.setProperty(model.index, "qty", quantity)
+                            onRemoveRequested: orderModel.remove(model.index)
+                        }
+                    }
+
+                    Rectangle {
+                        Layout.fillWidth: true
+                        Layout.preferredHeight: 1
+                        color: Theme.border
+                    }
+
+                    FigureRow {
+                        caption: qsTr("Items:")
+                        figure: root.totalItems
+                    }
+
+                    FigureRow {
+                        caption: qsTr("Subtotal:")
+                        figure: root.money(root.subtotal)
+                    }
+
+                    FigureRow {
+                        caption: qsTr("Total:")
+                        figure: root.money(root.total)
+                    }
+
+                    PrimaryButton {
+                        Layout.fillWidth: true
+                        padding: 15
+                        enabled: orderModel.count > 0
+                        text: root.currentOrderId >= 0 ? qsTr("Update Order") : qsTr("Place Order")
+                        onClicked: root.sendOrder()
+                    }
+                }
+            }
+        }
+    }
+
+    Component.onCompleted: {
+        currencySymbol = SettingService.currencySymbol()
+        kitchenSettings = SettingService.getKitchenSettings()
+        recomputeMeta()
+    }
+}

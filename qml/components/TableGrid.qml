@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+import Zelvan.Services 1.0
+
+// The tables of the store as tiles, under their title. The model follows every change of status.
+ColumnLayout {
+    id: root
+
+    required property string title
+    required property int selectedTableId
+
+    signal tableClicked(int tableId)
+
+    spacing: 2
+
+    PlainLabel {
+        text: root.title
+        font.bold: true
+        font.pixelSize: Theme.fontSmall
+    }
+
+    GridView {
+        Layout.fillWidth: true
+        Layout.preferredHeight: 98
+        clip: true
+        cellWidth: 80
+        cellHeight: 48
+        reuseItems: true
+        model: TableService.tableModel
+
+        Accessible.role: Accessible.List
+        Accessible.name: root.title
+
+        ScrollBar.vertical: ScrollBar {
+            width: 4
+        }
+
+        delegate: TableTile {
+            required property var model
+
+            name: model.name
+            status: model.status
+            selected: model.id === root.selectedTableId
+            onClicked: root.tableClicked(model.id)
+        }
+    }
+}

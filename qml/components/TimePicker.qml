@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import zelvan
+import zelvan.Theme 1.0
+
+// A time within the opening hours, in steps of a quarter of an hour.
+Item {
+    id: root
+
+    property int startHour: 9
+    property int endHour: 22
+    property int minuteStep: 15
+    property int hour: startHour + hourColumn.currentIndex
+    property int minute: minuteColumn.currentIndex * minuteStep
+    // Kept for screens that set it; nothing reads it.
+    property bool restrictPastTimeToday: false
+    readonly property int totalHours: endHour - startHour + 1
+
+    signal timeChanged(int hour, int minute)
+
+    // Rounds up to the next step. Clamping the hour leaves the minute as it is, which is meant:
+    // 23:40 shows as 22:45.
+    function showTime(presentHour: int, presentMinute: int) {
+        let shownHour = presentHour
+        let shownMinute = Math.ceil(presentMinute / root.minuteStep) * root.minuteStep
+        if (shownMinute === 60) {
+            shownMinute = 0
+            shownHour += 1
+        }
+        shownHour = Math.max(root.startHour, Math.min(root.endHour, shownHour))
+        hourColumn.currentIndex = shownHour - root.startHour
+        minuteColumn.currentIndex = Math.floor(shownMinute / root.minuteStep)
+    }
+
+    width: 260
+    height: 160
+
+    Row {
+        anchors.fill: parent
+        spacing: 12
+
+        TimeColumn {
+            id: hourColumn
+
+            objectName: "hourColumn"
+            width: (root.width - colon.width - 24) / 2
+            height: root.height
+            model: root.totalHours
+            first: root.startHour
+            Accessible.name: "Hour"
+            onCurrentIndexChanged: root.timeChanged(root.hour, root.minute)
+        }
+
+        PlainLabel {
+            id: colon
+
+            anchors.verticalCenter: parent.verticalCenter
+            text: ":"
+            font.pixelSize: 32
+            opacity: 0.9
+        }
+
+        TimeColumn {
+            id: minuteColumn
+
+            objectName: "minuteColumn"
+            width: hourColumn.width
+            height: root.height
+            model: Math.floor(60 / root.minuteStep)
+            step: root.minuteStep
+            Accessible.name: "Minute"
+            onCurrentIndexChanged: root.timeChanged(root.hour, root.minute)
+        }
+    }
+
+    Component.onCompleted: {
+        const now = new Date()
+        root.showTime(now.getHours(), now.getMinutes())
+    }
+}
