@@ -24,7 +24,7 @@ RowLayout {
 
         PlainLabel {
             Layout.fillWidth: true
-            Layout.maximumWidth: implicitWidth
+            Layout.maximumWidth: Math.ceil(implicitWidth) + 1
             text: root.line.item_name + (root.line.portion_size ? " (" + root.line.portion_size + ")" : "")
             elide: Text.ElideRight
         }
