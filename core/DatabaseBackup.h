@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#pragma once
+
+#include <QString>
+
+namespace DatabaseBackup {
+/// Lets SQLite write a consistent, compacted copy of the working database. Fails, with a line in
+/// the log, where the target exists already.
+[[nodiscard]] bool writeCopy(const QString &targetPath);
+} // namespace DatabaseBackup
