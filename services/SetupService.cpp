@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "services/SetupService.h"
+
+#include "core/DatabaseManager.h"
+#include "core/DatabaseSeeder.h"
+#include "core/Logging.h"
+#include "repositories/RegionalSettingsRepository.h"
+#include "services/AppService.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+
+SetupService::SetupService(AppService *app, DatabaseManager *databases, QObject *parent)
+    : QObject(parent)
+    , m_app(app)
+    , m_databases(databases)
+{}
+
+SetupService::SetupResult SetupService::initializeApp(const QString &dbPath)
+{
+    qCInfo(lcApplication) << "Starting app initialization...";
+    if (dbPath.isEmpty()) {
+        qCInfo(lcSetup) << "Invalid setup input.";
+        return InvalidPath;
+    }
+    if (QFile::exists(dbPath)) {
+        qCInfo(lcSetup) << "Existing database found.";
+        return DatabaseExists;
+    }
+    if (!buildDatabase(dbPath)) {
+        return InitializationFailed;
+    }
+    m_app->setDatabasePath(dbPath);
+    RegionalSettingsRepository regional(m_databases->connection());
+    DatabaseSeeder::seedRegionalSettings(regional);
+    qCInfo(lcApplication) << "App initialization completed successfully.";
+    return Success;
+}
+
+void SetupService::restartApp()
+{
+    // The list's first element is the program itself and stays in: each restart hands on one
+    // argument more, and nothing reads them.
+    QProcess::startDetached(QCoreApplication::applicationFilePath(), QCoreApplication::arguments(),
+                            QString());
+    QCoreApplication::quit();
+}
+
+bool SetupService::buildDatabase(const QString &dbPath)
+{
+    if (!m_databases->initialize(dbPath)) {
+        qCCritical(lcDatabase) << "Database initialization failed.";
+        // Only the file itself: what SQLite left beside it stays.
+        QFile::remove(dbPath);
+        return false;
+    }
+    if (!DatabaseSeeder(m_databases->connection()).seedAll()) {
+        // The half-seeded file stays, and its path is not saved.
+        qCCritical(lcDatabase) << "Database seeding failed.";
+        return false;
+    }
+    return true;
+}
