@@ -55,18 +55,19 @@ constexpr auto sumsSql = R"(
     WHERE status = 'paid' AND closed_at IS NOT NULL
     AND date(closed_at) >= :from AND date(closed_at) <= :to)";
 
-void readSums(const QSqlDatabase &database, TaxSummary &summary)
+bool readSums(const QSqlDatabase &database, TaxSummary &summary)
 {
     Statement statement(database, sumsSql, summaryFailure);
     bindPeriod(statement, summary.from, summary.to);
     if (!statement.run() || !statement.next()) {
-        return;
+        return false;
     }
     summary.transaction_count = statement.integer(0);
     summary.subtotal = statement.real(1);
     summary.tax_collected = statement.real(2);
     summary.discount = statement.real(3);
     summary.total_sales = statement.real(4);
+    return true;
 }
 
 constexpr auto identitySql = R"(
@@ -101,8 +102,9 @@ TaxSummary TaxReportRepository::getSummary(const QDate &from, const QDate &to) c
     TaxSummary summary;
     summary.from = from;
     summary.to = to;
-    readSums(m_database, summary);
-    readIdentity(m_database, summary);
+    if (readSums(m_database, summary)) {
+        readIdentity(m_database, summary);
+    }
     return summary;
 }
 

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "support/LogRecorder.h"
+
+#include <QMutex>
+#include <QMutexLocker>
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace {
+QMutex mutex;
+QStringList recorded;
+
+QString levelName(QtMsgType type)
+{
+    switch (type) {
+    case QtDebugMsg:
+        return QStringLiteral("debug");
+    case QtInfoMsg:
+        return QStringLiteral("info");
+    case QtWarningMsg:
+        return QStringLiteral("warning");
+    case QtCriticalMsg:
+        return QStringLiteral("critical");
+    case QtFatalMsg:
+        return QStringLiteral("fatal");
+    }
+    return {};
+}
+
+/// SQLite's own words differ between its versions, so they are not compared.
+QString withoutErrorWords(QString text)
+{
+    static const QRegularExpression wholeError(QStringLiteral(": QSqlError\\(.*\\)$"));
+    static const QRegularExpression errorText(
+        QStringLiteral(": \"[^\"]*(Unable to|Parameter count|Driver not|Error opening)[^\"]*\"$"));
+    text.replace(wholeError, QStringLiteral(": <QSqlError>"));
+    text.replace(errorText, QStringLiteral(": <error text>"));
+    return text;
+}
+
+void record(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const QMutexLocker locker(&mutex);
+    recorded.append(
+        QStringLiteral("%1 [%2] %3")
+            .arg(levelName(type), QString::fromUtf8(context.category), withoutErrorWords(message)));
+}
+} // namespace
+
+QString logOf(const std::function<void()> &operation)
+{
+    recorded.clear();
+    const QtMessageHandler previous = qInstallMessageHandler(record);
+    operation();
+    qInstallMessageHandler(previous);
+    return recorded.join(QLatin1Char('\n'));
+}
