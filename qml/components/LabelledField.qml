@@ -13,6 +13,8 @@ ColumnLayout {
     property alias echoMode: input.echoMode
     property alias input: input
 
+    signal textEdited()
+
     spacing: 8
 
     PlainLabel {
@@ -24,5 +26,7 @@ ColumnLayout {
 
         Layout.fillWidth: true
         label: caption.text
+
+        onTextEdited: root.textEdited()
     }
 }

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+
+// What an administrator sees after the log-in.
+Rectangle {
+    id: root
+
+    function loadPage(index: int): void {
+        // One entry a row of the sidebar; each page is built when it is chosen and dropped after.
+        const pages = [null, null, null, null, null, managementPage, settingsPage]
+        pageLoader.show(pages[index] ?? null)
+    }
+
+    color: Theme.background
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        AdminSidebar {
+            id: sidebar
+
+            Layout.fillHeight: true
+            Layout.preferredWidth: 150
+
+            onSelectionChanged: index => root.loadPage(index)
+        }
+
+        PageLoader {
+            id: pageLoader
+
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+        }
+    }
+
+    Component {
+        id: managementPage
+
+        AdminManagement {}
+    }
+
+    Component {
+        id: settingsPage
+
+        AdminSettings {}
+    }
+
+    Component.onCompleted: root.loadPage(sidebar.selectedIndex)
+}

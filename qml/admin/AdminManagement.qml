@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import Zelvan.Services 1.0
+import zelvan
+import zelvan.Theme 1.0
+
+// Menu, tables, members and users.
+Rectangle {
+    id: root
+
+    function loadPage(index: int): void {
+        // Which of the two keeps the tables is decided at each load.
+        const tables = SettingService.tableLayoutMode === "floor_plan" ? null : tablePage
+        const pages = [menuPage, tables, null, userPage]
+        pageLoader.show(pages[index] ?? null)
+    }
+
+    color: Theme.background
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        AdminManagementSidebar {
+            id: sidebar
+
+            Layout.fillHeight: true
+            Layout.preferredWidth: 150
+
+            onSelectionChanged: index => root.loadPage(index)
+        }
+
+        PageLoader {
+            id: pageLoader
+
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+        }
+    }
+
+    Component {
+        id: menuPage
+
+        AdminMenuManagement {}
+    }
+
+    Component {
+        id: tablePage
+
+        AdminTableManagement {}
+    }
+
+    Component {
+        id: userPage
+
+        AdminUserManagement {}
+    }
+
+    Component.onCompleted: root.loadPage(sidebar.selectedIndex)
+}

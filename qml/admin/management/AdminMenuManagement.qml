@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import Zelvan.Services 1.0
+import zelvan
+import zelvan.Theme 1.0
+
+// The menu: the categories at the left, the items of the selected one at the right.
+Rectangle {
+    id: root
+
+    property string currencySymbol: SettingService.currencySymbol()
+    readonly property bool categorySelected: MenuService.currentCategoryId !== -1
+
+    function confirmDeletion(title: string, message: string, remove: var): void {
+        confirmationDialog.title = title
+        confirmationDialog.message = message
+        confirmationDialog.confirmCallback = confirmed => {
+            if (confirmed)
+                remove()
+        }
+        confirmationDialog.open()
+    }
+
+    function confirmCategoryDeletion(categoryId: int, name: string): void {
+        const message = qsTr("Are you sure you want to delete \"%1\"? All menu items within \"%1\" will be deleted.")
+        root.confirmDeletion(qsTr("Delete Category"), message.arg(name), () => MenuService.removeCategory(categoryId))
+    }
+
+    function confirmItemDeletion(itemId: int, name: string): void {
+        root.confirmDeletion(qsTr("Delete Item"), qsTr("Are you sure you want to delete \"%1\"?").arg(name),
+                             () => MenuService.removeMenuItem(itemId))
+    }
+
+    width: 800
+    height: 600
+    color: Theme.background
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        MenuCategoryPane {
+            Layout.fillHeight: true
+            Layout.margins: 16
+            Layout.maximumWidth: 220
+            Layout.minimumWidth: 220
+
+            onDeleteRequested: (categoryId, name) => root.confirmCategoryDeletion(categoryId, name)
+        }
+
+        ColumnLayout {
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            Layout.margins: 16
+            spacing: 12
+
+            PageHeading {
+                text: root.categorySelected ? qsTr("Menu Items") : qsTr("Select a category")
+            }
+
+            Rectangle {
+                Layout.fillWidth: true
+                Layout.preferredHeight: 40
+                color: Theme.surface
+                radius: 6
+                visible: root.categorySelected
+
+                RowLayout {
+                    anchors.fill: parent
+                    anchors.leftMargin: 12
+                    anchors.rightMargin: 12
+                    spacing: 12
+
+                    TableHeaderLabel {
+                        Layout.fillWidth: true
+                        text: qsTr("Item")
+                    }
+
+                    TableHeaderLabel {
+                        Layout.preferredWidth: 90
+                        horizontalAlignment: Text.AlignRight
+                        text: qsTr("Price")
+                    }
+
+                    TableHeaderLabel {
+                        Layout.preferredWidth: 120
+                        text: qsTr("Portion")
+                    }
+
+                    TableHeaderLabel {
+                        Layout.preferredWidth: 100
+                        text: qsTr("Available")
+                    }
+
+                    TableHeaderLabel {
+                        Layout.preferredWidth: 100
+                        text: qsTr("Taxable")
+                    }
+
+                    Item {
+                        Layout.preferredWidth: 160
+                    }
+                }
+            }
+
+            ListView {
+                Layout.fillHeight: true
+                Layout.fillWidth: true
+                clip: true
+                model: MenuService.menuItemModel
+                reuseItems: true
+                spacing: 4
+                visible: root.categorySelected
+
+                delegate: EditableMenuItemRow {
+                    required property var model
+
+                    width: ListView.view.width
+                    available: model.available
+                    currencySymbol: root.currencySymbol
+                    drafts: rowDrafts
+                    item: model.item
+                    itemId: model.id
+                    portion: model.portion
+                    price: model.price
+                    taxable: model.taxable
+
+                    onDeleteRequested: (itemId, name) => root.confirmItemDeletion(itemId, name)
+                }
+            }
+
+            MenuItemForm {
+                Layout.fillWidth: true
+                visible: root.categorySelected
+            }
+
+            Item {
+                Layout.fillHeight: true
+                visible: !root.categorySelected
+            }
+        }
+    }
+
+    RowDrafts {
+        id: rowDrafts
+    }
+
+    ConfirmationDialog {
+        id: confirmationDialog
+
+        anchors.centerIn: root
+        parent: root
+    }
+
+    Connections {
+        function onCurrentCategoryIdChanged(): void {
+            rowDrafts.clear()
+        }
+
+        target: MenuService
+    }
+}

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import Zelvan.Services 1.0
+import zelvan
+import zelvan.Theme 1.0
+
+// One category: a click selects it, a right click offers to rename or delete it.
+Rectangle {
+    id: root
+
+    property int categoryId: -1
+    property string name
+    property bool isEditing: false
+    property string editedCategory
+    property string originalCategory
+    readonly property bool selected: root.categoryId === MenuService.currentCategoryId
+
+    signal deleteRequested(int categoryId, string name)
+
+    function startEditing(): void {
+        root.originalCategory = root.name
+        root.editedCategory = root.name
+        root.isEditing = true
+        renameField.forceActiveFocus()
+        renameField.selectAll()
+    }
+
+    function commit(): void {
+        if (!root.isEditing)
+            return
+        // First, since the renaming rebuilds the rows.
+        root.isEditing = false
+        const newName = root.editedCategory.trim()
+        if (newName !== "" && newName !== root.originalCategory)
+            MenuService.renameCategory(root.categoryId, newName)
+    }
+
+    function cancel(): void {
+        root.editedCategory = root.originalCategory
+        root.isEditing = false
+    }
+
+    function select(): void {
+        MenuService.currentCategoryId = root.categoryId
+    }
+
+    height: 44
+    Accessible.name: root.name
+    Accessible.role: Accessible.ListItem
+    Accessible.selected: root.selected
+    color: root.selected ? Theme.primary() : Theme.background
+    radius: 4
+
+    PlainLabel {
+        anchors.fill: parent
+        anchors.leftMargin: 12
+        anchors.rightMargin: 4
+        Accessible.ignored: true
+        color: root.selected ? "white" : Theme.text
+        elide: Text.ElideRight
+        text: root.name
+        verticalAlignment: Text.AlignVCenter
+        visible: !root.isEditing
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        enabled: !root.isEditing
+
+        onClicked: mouse => {
+            if (mouse.button === Qt.RightButton)
+                contextMenu.popup()
+            else
+                root.select()
+        }
+    }
+
+    ThemedField {
+        id: renameField
+
+        anchors.fill: parent
+        label: qsTranslate("AdminMenuManagement", "Rename")
+        text: root.editedCategory
+        visible: root.isEditing
+
+        Keys.onEscapePressed: root.cancel()
+        onAccepted: root.commit()
+        onActiveFocusChanged: {
+            if (!activeFocus)
+                root.commit()
+        }
+        onTextEdited: root.editedCategory = text
+    }
+
+    Menu {
+        id: contextMenu
+
+        MenuItem {
+            text: qsTranslate("AdminMenuManagement", "Rename")
+
+            onTriggered: root.startEditing()
+        }
+
+        MenuItem {
+            text: qsTranslate("AdminMenuManagement", "Delete")
+
+            onTriggered: root.deleteRequested(root.categoryId, root.name)
+        }
+    }
+
+    Accessible.onPressAction: root.select()
+    ListView.onPooled: root.commit()
+}

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Zelvan.Services 1.0
+import zelvan
+import zelvan.Theme 1.0
+
+// The block that adds an item to the selected category. The texts belong to the page of the menu.
+ColumnLayout {
+    id: root
+
+    function add(): void {
+        const name = nameField.text.trim()
+        const portion = portionField.text.trim()
+        if (name === "" || priceField.text === "" || MenuService.currentCategoryId === -1)
+            return
+        const price = parseFloat(priceField.text)
+        MenuService.addMenuItem(name, MenuService.currentCategoryId, isNaN(price) || price < 0 ? 0 : price,
+                                availableBox.checked, taxableBox.checked, portion)
+        // Whatever the answer.
+        nameField.clear()
+        priceField.clear()
+        portionField.clear()
+        availableBox.checked = true
+        taxableBox.checked = true
+    }
+
+    spacing: 8
+
+    RowLayout {
+        spacing: 8
+
+        ThemedField {
+            id: nameField
+
+            Layout.fillWidth: true
+            placeholderText: qsTranslate("AdminMenuManagement", "Item name")
+        }
+
+        ThemedField {
+            id: priceField
+
+            Layout.preferredWidth: 200
+            inputMethodHints: Qt.ImhFormattedNumbersOnly
+            placeholderText: qsTranslate("AdminMenuManagement", "Price")
+        }
+
+        ThemedField {
+            id: portionField
+
+            Layout.preferredWidth: 150
+            placeholderText: qsTranslate("AdminMenuManagement", "Portion (optional)")
+        }
+
+        CheckBox {
+            id: availableBox
+
+            checked: true
+            font.pixelSize: Theme.fontNormal
+            text: qsTranslate("AdminMenuManagement", "Available")
+        }
+
+        CheckBox {
+            id: taxableBox
+
+            checked: true
+            font.pixelSize: Theme.fontNormal
+            text: qsTranslate("AdminMenuManagement", "Taxable")
+        }
+    }
+
+    PrimaryButton {
+        Layout.fillWidth: true
+        Layout.topMargin: 15
+        padding: 15
+        text: qsTranslate("AdminMenuManagement", "Add Menu Item")
+
+        onClicked: root.add()
+    }
+}

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+
+// What rows were being edited to when they scrolled out of sight, by the record's id. Rows are used
+// again for other records, so they may not keep it themselves.
+QtObject {
+    id: root
+
+    property var drafts: ({})
+
+    function put(id: int, draft: var): void {
+        root.drafts[id] = draft
+    }
+
+    // The draft of that record, or undefined; asked for once.
+    function take(id: int): var {
+        const draft = root.drafts[id]
+        delete root.drafts[id]
+        return draft
+    }
+
+    function clear(): void {
+        root.drafts = {}
+    }
+}

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import Zelvan.Services 1.0
+import zelvan
+
+// Creates a user. The texts belong to the page of the users.
+ModalFrame {
+    id: root
+
+    function create(): void {
+        // The visible text of the role is stored, not its value. That is meant: see the role's readers.
+        UserService.createUser(usernameField.text, passwordField.text, confirmationField.text,
+                               roleField.comboBox.currentText)
+        root.clearFields()
+    }
+
+    function clearFields(): void {
+        usernameField.text = ""
+        passwordField.text = ""
+        confirmationField.text = ""
+    }
+
+    width: 460
+    height: 450
+
+    contentItem: ColumnLayout {
+        spacing: 10
+
+        PageHeading {
+            text: qsTranslate("AdminUserManagement", "Create User")
+        }
+
+        LabelledField {
+            id: usernameField
+
+            label: qsTranslate("AdminUserManagement", "Username")
+            placeholderText: label
+        }
+
+        LabelledField {
+            id: passwordField
+
+            echoMode: TextInput.Password
+            label: qsTranslate("AdminUserManagement", "Password")
+            placeholderText: label
+        }
+
+        LabelledField {
+            id: confirmationField
+
+            echoMode: TextInput.Password
+            label: qsTranslate("AdminUserManagement", "Confirm Password")
+            placeholderText: label
+        }
+
+        LabelledComboBox {
+            id: roleField
+
+            comboBox.model: [
+                { text: qsTranslate("AdminUserManagement", "Admin"), value: "admin" },
+                { text: qsTranslate("AdminUserManagement", "Service Staff"), value: "service_staff" },
+                { text: qsTranslate("AdminUserManagement", "Kitchen Staff"), value: "kitchen_staff" }
+            ]
+            label: qsTranslate("AdminUserManagement", "Role")
+        }
+
+        DialogButtons {
+            acceptText: qsTranslate("AdminUserManagement", "Create")
+            cancelText: qsTranslate("AdminUserManagement", "Cancel")
+
+            onAccepted: root.create()
+            onCancelled: {
+                root.close()
+                root.clearFields()
+            }
+        }
+    }
+
+    Connections {
+        // After a refusal the dialog stays, empty and without a message.
+        function onCreateUserFinished(success: bool): void {
+            if (success && root.visible)
+                root.close()
+        }
+
+        target: UserService
+    }
+}

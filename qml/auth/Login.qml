@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Window
+import Zelvan.Services 1.0
+import zelvan
+import zelvan.Theme 1.0
+
+// The first screen of a program that is set up. The role decides the home screen.
+Item {
+    id: root
+
+    readonly property var homes: ({
+        admin: "../admin/AdminHome.qml",
+        service_staff: "../serviceStaff/ServiceStaffHome.qml",
+        kitchen_staff: "../kitchenStaff/KitchenStaffHome.qml"
+    })
+
+    function logIn(): void {
+        if (!AuthService.login(usernameField.text, passwordField.text)) {
+            errorLabel.text = qsTr("Invalid username or password.")
+            return
+        }
+        // A role without a home is meant to stay here, in a maximised window.
+        const home = root.homes[AuthService.currentUserRole]
+        if (home !== undefined)
+            stackView.push(home) // qmllint disable unqualified
+        root.Window.window.showMaximized()
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.background
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        BrandPanel {
+            Layout.fillHeight: true
+            Layout.preferredWidth: 300
+        }
+
+        Item {
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+
+            ColumnLayout {
+                anchors.centerIn: parent
+                spacing: 12
+                width: 300
+
+                LabelledField {
+                    id: usernameField
+
+                    label: qsTr("Username")
+                    placeholderText: qsTr("Enter username")
+                    spacing: 12
+                }
+
+                LabelledField {
+                    id: passwordField
+
+                    echoMode: TextInput.Password
+                    label: qsTr("Password")
+                    placeholderText: qsTr("Enter password")
+                    spacing: 12
+                }
+
+                PrimaryButton {
+                    Layout.fillWidth: true
+                    Layout.topMargin: 15
+                    padding: 15
+                    text: qsTr("Login")
+
+                    onClicked: root.logIn()
+                }
+
+                PlainLabel {
+                    id: errorLabel
+
+                    Layout.fillWidth: true
+                    Layout.topMargin: 10
+                    color: Theme.error()
+                    wrapMode: Text.WordWrap
+                }
+            }
+        }
+    }
+}

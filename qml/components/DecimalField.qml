@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import zelvan
+
+// A field that takes a decimal number, with a point in every language.
+ThemedField {
+    Layout.preferredWidth: 90
+    inputMethodHints: Qt.ImhFormattedNumbersOnly
+
+    validator: RegularExpressionValidator {
+        regularExpression: /[0-9]*\.?[0-9]*/
+    }
+}

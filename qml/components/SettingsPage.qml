@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+
+// A page whose settings are written by one button. Says something only when that fails.
+ScrollPage {
+    id: root
+
+    property string errorMessage
+    property alias saveText: saveButton.text
+
+    signal saveRequested()
+
+    footer: [
+        ActionButton {
+            id: saveButton
+
+            fillColor: Theme.primary()
+
+            onClicked: root.saveRequested()
+        },
+        ErrorLabel {
+            Layout.fillWidth: true
+            text: root.errorMessage
+        }
+    ]
+}

