@@ -11,7 +11,7 @@ Rectangle {
 
     function loadPage(index: int): void {
         // One entry a row of the sidebar; each page is built when it is chosen and dropped after.
-        const pages = [null, null, null, null, null, managementPage, settingsPage]
+        const pages = [orderPage, checkoutPage, kitchenPage, null, null, managementPage, settingsPage]
         pageLoader.show(pages[index] ?? null)
     }
 
@@ -36,6 +36,24 @@ Rectangle {
             Layout.fillHeight: true
             Layout.fillWidth: true
         }
+    }
+
+    Component {
+        id: orderPage
+
+        OrderTaking {}
+    }
+
+    Component {
+        id: checkoutPage
+
+        Checkout {}
+    }
+
+    Component {
+        id: kitchenPage
+
+        KitchenOrders {}
     }
 
     Component {
