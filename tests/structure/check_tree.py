@@ -17,7 +17,7 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-NOT_OURS = {".git", "build", ".cache", "__pycache__"}
+NOT_OURS = {".git", "build", ".cache", "__pycache__"}  # folders
 NO_LICENCE_LINES = {".png", ".json", ".ts", ".sql", ".bin", ".svg"}
 SOURCE_FOLDERS = ("core", "repositories", "models", "services", "printing", "qml")
 
@@ -26,11 +26,11 @@ SOURCE_FOLDERS = ("core", "repositories", "models", "services", "printing", "qml
 def tree():
     """All files of the tree, as paths relative to its root; a file that git ignores is not of it."""
     found = []
-    for path in sorted(ROOT.rglob("*")):
-        relative = path.relative_to(ROOT)
-        if path.is_file() and not NOT_OURS.intersection(relative.parts):
-            found.append(relative)
-    if (ROOT / ".git").exists() and found:
+    for folder, subfolders, names in os.walk(ROOT):
+        subfolders[:] = sorted(set(subfolders) - NOT_OURS)
+        found += [pathlib.Path(folder, name).relative_to(ROOT) for name in sorted(names)]
+    found = [path for path in found if path.name != ".git"]
+    if (ROOT / ".git").exists():
         names = "\n".join(map(str, found))
         ignored = subprocess.run(["git", "check-ignore", "--stdin"], cwd=ROOT, input=names,
                                  capture_output=True, text=True, check=False).stdout.splitlines()
