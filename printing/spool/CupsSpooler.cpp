@@ -127,11 +127,7 @@ public:
         if (!m_connection.alive()) {
             return false;
         }
-        char uri[HTTP_MAX_URI];
-        httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof(uri), "ipp", nullptr, "localhost", 0,
-                         "/printers/%s", m_queue.c_str());
-        ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
-        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+        ipp_t *request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
         ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                      "printer-name");
         ippDelete(cupsDoRequest(m_connection.http(), request, "/"));
@@ -144,7 +140,7 @@ public:
             return 0;
         }
         http_t *http = m_connection.http();
-        m_job = cupsCreateJob(http, m_queue.c_str(), title, 0, nullptr);
+        m_job = createJob(title);
         if (!m_connection.answered(m_job > 0)) {
             return 0;
         }
@@ -193,6 +189,32 @@ public:
     }
 
 private:
+    [[nodiscard]] ipp_t *newRequest(ipp_op_t operation) const
+    {
+        char uri[HTTP_MAX_URI];
+        httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof(uri), "ipp", nullptr, "localhost", 0,
+                         "/printers/%s", m_queue.c_str());
+        ipp_t *request = ippNewRequest(operation);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                     cupsUser());
+        return request;
+    }
+
+    /// The request of cupsCreateJob without its search for the queue, which would wait for minutes
+    /// on a connection of its own when the server has just fallen silent. 0 on failure.
+    [[nodiscard]] int createJob(const char *title) const
+    {
+        ipp_t *request = newRequest(IPP_OP_CREATE_JOB);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, title);
+        const std::string resource = "/printers/" + m_queue;
+        ipp_t *response = cupsDoRequest(m_connection.http(), request, resource.c_str());
+        ipp_attribute_t *id = ippFindAttribute(response, "job-id", IPP_TAG_INTEGER);
+        const int job = isSuccess(cupsLastError()) && id ? ippGetInteger(id, 0) : 0;
+        ippDelete(response);
+        return job;
+    }
+
     std::string m_queue;
     Connection m_connection;
     int m_job = 0;

@@ -54,8 +54,8 @@ private slots:
     void aQueueThatRejectsJobsIsRefusedAtTheStart();
     void aServerThatDoesNotRunIsAnError();
     void aServerThatNeverAnswersIsAnErrorInTwoSeconds();
-    void aServerKilledBeforeTheWriteIsAnError();
-    void aServerThatHangsBeforeTheWriteCostsOneWait();
+    void aServerLostMidWayIsAnErrorThatCostsOneWait_data();
+    void aServerLostMidWayIsAnErrorThatCostsOneWait();
 
 private:
     /// Opens the printer and starts a document on it.
@@ -232,50 +232,53 @@ void tst_CupsSpooler::aServerThatNeverAnswersIsAnErrorInTwoSeconds()
     QVERIFY2(clock.elapsed() < promisedMs, qPrintable(QString::number(clock.elapsed())));
 }
 
-void tst_CupsSpooler::aServerKilledBeforeTheWriteIsAnError()
+void tst_CupsSpooler::aServerLostMidWayIsAnErrorThatCostsOneWait_data()
 {
-    PrivateCups cups;
-    QVERIFY(cups.start());
-    QVERIFY(cups.addQueue(QStringLiteral("TM88"), 9100));
-    CupsSpooler spooler;
-    const RawSpooler::Handle handle = started(spooler);
-    QVERIFY(handle != 0);
-    QElapsedTimer clock;
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<bool>("documentIsOpen");
+    QTest::addColumn<int>("size");
 
-    clock.start();
-    cups.signalServer(SIGKILL);
-    std::uint32_t written = 1;
-    QVERIFY(!spooler.writePrinter(handle, "x", 1, written));
-    QCOMPARE(written, 0u);
-    QVERIFY(spooler.getLastError() != 0);
-    spooler.endPagePrinter(handle);
-    spooler.endDocPrinter(handle);
-    QVERIFY(spooler.closePrinter(handle));
-
-    QVERIFY2(clock.elapsed() < promisedMs, qPrintable(QString::number(clock.elapsed())));
+    QTest::newRow("killed before the document") << SIGKILL << false << 1;
+    QTest::newRow("halted before the document") << SIGSTOP << false << 1;
+    QTest::newRow("killed before the write") << SIGKILL << true << 1;
+    QTest::newRow("halted before the write") << SIGSTOP << true << 1;
+    QTest::newRow("killed before a write of 16 MB") << SIGKILL << true << 16'000'000;
+    QTest::newRow("halted before a write of 16 MB") << SIGSTOP << true << 16'000'000;
 }
 
-void tst_CupsSpooler::aServerThatHangsBeforeTheWriteCostsOneWait()
+void tst_CupsSpooler::aServerLostMidWayIsAnErrorThatCostsOneWait()
 {
+    QFETCH(int, signal);
+    QFETCH(bool, documentIsOpen);
+    QFETCH(int, size);
     PrivateCups cups;
     QVERIFY(cups.start());
     QVERIFY(cups.addQueue(QStringLiteral("TM88"), 9100));
+    const QByteArray bytes(size, 'x');
     CupsSpooler spooler;
-    const RawSpooler::Handle handle = started(spooler);
-    QVERIFY(handle != 0);
+    RawSpooler::Handle handle = 0;
+    QVERIFY(spooler.openPrinter(u"TM88", handle));
+    if (documentIsOpen) {
+        QVERIFY(spooler.startDocPrinter(handle, documentName) != 0);
+    }
     QElapsedTimer clock;
 
     clock.start();
-    cups.signalServer(SIGSTOP);
+    cups.signalServer(signal);
+    const bool started = documentIsOpen || spooler.startDocPrinter(handle, documentName) != 0;
     std::uint32_t written = 1;
-    QVERIFY(!spooler.writePrinter(handle, "x", 1, written));
-    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+    const bool wrote =
+        spooler.writePrinter(handle, bytes.constData(), static_cast<std::uint32_t>(size), written);
     spooler.endPagePrinter(handle);
     spooler.endDocPrinter(handle);
-    QVERIFY(spooler.closePrinter(handle));
+    const bool closed = spooler.closePrinter(handle);
     const qint64 elapsed = clock.elapsed();
-    cups.signalServer(SIGCONT);
 
+    QCOMPARE(started, documentIsOpen);
+    QVERIFY(!wrote);
+    QCOMPARE(written, 0u);
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+    QVERIFY(closed);
     QVERIFY2(elapsed < promisedMs, qPrintable(QString::number(elapsed)));
 }
 
