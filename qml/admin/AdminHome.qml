@@ -11,7 +11,7 @@ Rectangle {
 
     function loadPage(index: int): void {
         // One entry a row of the sidebar; each page is built when it is chosen and dropped after.
-        const pages = [orderPage, checkoutPage, kitchenPage, null, null, managementPage, settingsPage]
+        const pages = [orderPage, checkoutPage, kitchenPage, analyticsPage, taxReportsPage, managementPage, settingsPage]
         pageLoader.show(pages[index] ?? null)
     }
 
@@ -54,6 +54,18 @@ Rectangle {
         id: kitchenPage
 
         KitchenOrders {}
+    }
+
+    Component {
+        id: analyticsPage
+
+        AdminAnalytics {}
+    }
+
+    Component {
+        id: taxReportsPage
+
+        AdminTaxReports {}
     }
 
     Component {

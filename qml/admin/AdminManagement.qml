@@ -12,8 +12,8 @@ Rectangle {
 
     function loadPage(index: int): void {
         // Which of the two keeps the tables is decided at each load.
-        const tables = SettingService.tableLayoutMode === "floor_plan" ? null : tablePage
-        const pages = [menuPage, tables, null, userPage]
+        const tables = SettingService.tableLayoutMode === "floor_plan" ? floorPlanPage : tablePage
+        const pages = [menuPage, tables, membersPage, userPage]
         pageLoader.show(pages[index] ?? null)
     }
 
@@ -50,6 +50,18 @@ Rectangle {
         id: tablePage
 
         AdminTableManagement {}
+    }
+
+    Component {
+        id: floorPlanPage
+
+        AdminFloorPlanManagement {}
+    }
+
+    Component {
+        id: membersPage
+
+        AdminMembersManagement {}
     }
 
     Component {

@@ -101,7 +101,7 @@ Item {
     implicitWidth: 800
     implicitHeight: 600
 
-    component ActionButton: FilledButton {
+    component TopButton: FilledButton {
         padding: 12
         topPadding: 10
         bottomPadding: 10
@@ -188,20 +188,20 @@ Item {
                     RowLayout {
                         spacing: 8
 
-                        ActionButton {
+                        TopButton {
                             text: qsTr("New Order")
                             fillColor: "#4faba1"
                             onClicked: root.newOrder()
                         }
 
-                        ActionButton {
+                        TopButton {
                             visible: root.allowEditAfterSend
                             text: qsTr("Edit Order")
                             fillColor: "#5F7DDC"
                             onClicked: root.showOpenOrders()
                         }
 
-                        ActionButton {
+                        TopButton {
                             visible: root.currentOrderId >= 0 && root.kitchenSettings.ticket_print_timing === "manual"
                             text: qsTr("Print Ticket")
                             fillColor: Theme.primary()

@@ -11,8 +11,7 @@ RowLayout {
     // An index outside the list leaves the page as it is.
     function loadPage(index: int) {
         const pages = [orderTaking, checkout, kitchen]
-        if (pages[index])
-            page.sourceComponent = pages[index]
+        page.show(pages[index] ?? null)
     }
 
     spacing: 0
@@ -25,7 +24,7 @@ RowLayout {
         onSelectionChanged: index => root.loadPage(index)
     }
 
-    Loader {
+    PageLoader {
         id: page
 
         Layout.fillWidth: true

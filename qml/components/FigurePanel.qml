@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+
+// A titled panel of the dashboard: rows `{ text, figure }`.
+Rectangle {
+    id: root
+
+    required property string title
+    required property var rows
+    property bool boldFigures: false
+
+    radius: 6
+    color: Theme.background
+    border.width: 1
+    border.color: Theme.border
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: 16
+        spacing: 8
+
+        PageHeading {
+            text: root.title
+        }
+
+        ListView {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            clip: true
+            reuseItems: true
+            spacing: 8
+            model: root.rows
+
+            Accessible.role: Accessible.List
+            Accessible.name: root.title
+
+            delegate: RowLayout {
+                required property var modelData
+
+                width: ListView.view.width
+
+                Accessible.role: Accessible.ListItem
+                Accessible.name: modelData.text
+
+                PlainLabel {
+                    Layout.fillWidth: true
+                    text: modelData.text
+                    elide: Text.ElideRight
+                }
+
+                PlainLabel {
+                    text: modelData.figure
+                    font.bold: root.boldFigures
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import zelvan
+import zelvan.Theme 1.0
+import Zelvan.Services 1.0
+import "FloorColors.js" as FloorColors
+
+// The floor in the administrator's editor. What is moved here stays in the model until it is saved.
+Rectangle {
+    id: root
+
+    property var model
+    // The row whose menu was opened last.
+    property int selectedIndex: -1
+
+    color: Theme.background
+
+    Menu {
+        id: rowMenu
+
+        MenuItem {
+            text: qsTr("Delete")
+            onTriggered: FloorPlanService.deleteItem(root.selectedIndex)
+        }
+    }
+
+    Repeater {
+        model: root.model
+
+        FloorItem {
+            id: item
+
+            required property var model
+            required property int index
+
+            // A text that does not parse ends the binding, and the empty object stands.
+            metadata: model.metadata ? JSON.parse(model.metadata) : ({})
+            x: model.x || 0
+            y: model.y || 0
+            type: model.type || "table"
+            width: model.width || 80
+            height: model.height || 80
+            rotation: model.rotation || 0
+            opacity: model.opacity || 1.0
+            z: model.z_order || 0
+            capacity: model.capacity || 4
+            label: model.label || ""
+            color: FloorColors.fill(model.status, Theme.surface)
+            borderColor: index === root.selectedIndex ? Theme.primary() : "#555555"
+
+            Accessible.role: Accessible.Graphic
+            Accessible.name: label || type
+            onChanged: (x, y, width, rotation) => {
+                model.x = x
+                model.y = y
+                model.width = width
+                model.rotation = rotation
+            }
+
+            MouseArea {
+                anchors.fill: parent
+                drag.target: item
+                drag.minimumX: 0
+                drag.minimumY: 0
+                onReleased: {
+                    item.model.x = item.x
+                    item.model.y = item.y
+                }
+            }
+
+            TapHandler {
+                acceptedButtons: Qt.RightButton
+                onTapped: {
+                    root.selectedIndex = item.index
+                    rowMenu.popup()
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+
+// Asks for the name of a new floor. The field keeps its text to the next opening; an empty name is
+// accepted.
+ModalFrame {
+    id: root
+
+    required property string title
+    required property string label
+    required property string placeholder
+    required property string confirmText
+    required property string cancelText
+
+    signal confirmed(string name)
+
+    width: 360
+    height: 260
+
+    contentItem: ColumnLayout {
+        spacing: 12
+
+        PageHeading {
+            text: root.title
+        }
+
+        LabelledField {
+            id: nameField
+
+            Layout.fillWidth: true
+            label: root.label
+            placeholderText: root.placeholder
+        }
+
+        Item {
+            Layout.fillHeight: true
+        }
+
+        DialogButtons {
+            Layout.fillWidth: true
+            acceptText: root.confirmText
+            cancelText: root.cancelText
+            onAccepted: {
+                root.confirmed(nameField.text)
+                root.close()
+            }
+            onCancelled: root.close()
+        }
+    }
+}

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import zelvan.Theme 1.0
+
+// A few lines of text to type in, in the theme's colours. `label` is its name for a screen reader.
+ScrollView {
+    id: root
+
+    property string label
+    property alias text: area.text
+    property alias placeholderText: area.placeholderText
+
+    background: Rectangle {
+        radius: 4
+        color: Theme.background
+        border.width: 1
+        border.color: area.activeFocus ? Theme.primary() : Theme.border
+    }
+
+    TextArea {
+        id: area
+
+        color: Theme.text
+        placeholderTextColor: Theme.secondaryText
+        font.pixelSize: Theme.fontNormal
+        textFormat: TextEdit.PlainText
+        wrapMode: TextArea.Wrap
+        background: null
+        Accessible.name: root.label
+    }
+}

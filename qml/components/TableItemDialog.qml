@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import zelvan
+import zelvan.Theme 1.0
+
+// Asks for the label, the seats and the shape of a new table. The values stay for the next opening.
+ModalFrame {
+    id: root
+
+    required property string title
+    required property string labelTitle
+    required property string labelPlaceholder
+    required property string startLabel
+    required property string seatsTitle
+    required property string typeTitle
+    // Entries `{ text, value }`.
+    required property var types
+    required property string confirmText
+    required property string cancelText
+
+    signal confirmed(string label, int seats, string tableType)
+
+    width: 360
+    height: 320
+
+    contentItem: ColumnLayout {
+        spacing: 6
+
+        PageHeading {
+            text: root.title
+        }
+
+        PlainLabel {
+            text: root.labelTitle
+        }
+
+        ThemedField {
+            id: labelField
+
+            Layout.fillWidth: true
+            Layout.preferredHeight: 34
+            padding: 6
+            label: root.labelTitle
+            placeholderText: root.labelPlaceholder
+            text: root.startLabel
+        }
+
+        PlainLabel {
+            text: root.seatsTitle
+        }
+
+        SpinBox {
+            id: seatsBox
+
+            Layout.fillWidth: true
+            Layout.preferredHeight: 34
+            from: 1
+            to: 20
+            value: 4
+            Accessible.name: root.seatsTitle
+        }
+
+        PlainLabel {
+            text: root.typeTitle
+        }
+
+        ThemedComboBox {
+            id: typeBox
+
+            Layout.fillWidth: true
+            Layout.preferredHeight: 34
+            label: root.typeTitle
+            model: root.types
+        }
+
+        DialogButtons {
+            Layout.fillWidth: true
+            acceptText: root.confirmText
+            cancelText: root.cancelText
+            onAccepted: {
+                root.confirmed(labelField.text, seatsBox.value, root.types[typeBox.currentIndex].value)
+                root.close()
+            }
+            onCancelled: root.close()
+        }
+    }
+}
