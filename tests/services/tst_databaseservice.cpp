@@ -1,0 +1,342 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "core/DatabaseManager.h"
+#include "services/AppService.h"
+#include "services/DatabaseService.h"
+#include "services/SettingsKeys.h"
+#include "support/DatabaseFiles.h"
+#include "support/ZelvanTest.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// Backup, staging of a restore, and choosing another database.
+class tst_DatabaseService : public ZelvanTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void aBackupIsACompleteCopyNamedByTheLocalTime();
+    void aBackupWorksInAnyFolder_data();
+    void aBackupWorksInAnyFolder();
+    void aBackupHoldsWhatIsStillInTheWriteAheadLog();
+    void aSecondBackupInTheSameSecondFails();
+    void aBackupOfAMissingFileFails();
+    void aBackupFailsWhereItsFolderCannotBeMade();
+    void aBackupNeedsAnOpenDatabase();
+    void aBackupNeedsACheckpoint();
+
+    void aRestoreIsOnlyStaged();
+    void aSecondRestoreKeepsTheLastPath();
+    void anUnfitRestoreFileIsRefusedAtOnce_data();
+    void anUnfitRestoreFileIsRefusedAtOnce();
+
+    void anOpenedDatabaseBecomesTheConfiguredOne();
+    void anUnfitDatabaseIsNotOpened_data();
+    void anUnfitDatabaseIsNotOpened();
+
+private:
+    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
+    /// Makes the store's database, configures it and opens it as the working one.
+    void openStore(const QString &path);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    AppService m_app;
+    DatabaseManager m_databases;
+    DatabaseService m_service{&m_app, &m_databases};
+};
+
+void tst_DatabaseService::init()
+{
+    ZelvanTest::init();
+    QSettings().clear();
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void tst_DatabaseService::cleanup()
+{
+    DatabaseManager::closeDatabase();
+}
+
+void tst_DatabaseService::openStore(const QString &path)
+{
+    DatabaseFiles::makeStore(path, "live");
+    m_app.setDatabasePath(path);
+    QVERIFY(DatabaseManager::initialize(path));
+}
+
+namespace {
+QStringList filesIn(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden);
+}
+
+/// Whatever the second in which the backup is made, its name is taken.
+void takeBackupNamesOfTheNextSeconds(const QString &folder)
+{
+    constexpr int seconds = 20;
+    QDir().mkpath(folder);
+    const QDateTime now = QDateTime::currentDateTime();
+    for (int second = 0; second < seconds; ++second) {
+        DatabaseFiles::makeText(folder +
+                                now.addSecs(second).toString("'/backup_'yyyy-MM-dd_hh-mm-ss'.db'"));
+    }
+}
+
+void addFolderNames()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("apostrophe") << "Alice's";
+    QTest::newRow("blank") << "my data";
+    QTest::newRow("hash") << "a#b";
+    QTest::newRow("percent") << "100%20 %1 %";
+    QTest::newRow("Chinese") << QString::fromUtf8("餐厅");
+}
+} // namespace
+
+void tst_DatabaseService::aBackupIsACompleteCopyNamedByTheLocalTime()
+{
+    openStore(inFolder("Zelvan.db"));
+    const QDateTime before = QDateTime::currentDateTime();
+
+    expectLog(QtInfoMsg, "Creating backup with SQL.");
+    QVERIFY(m_service.backupDatabase());
+
+    const QStringList files = filesIn(inFolder("backups"));
+    QCOMPARE(files.size(), 1);
+    const QDateTime stamp =
+        QDateTime::fromString(files.constFirst(), "'backup_'yyyy-MM-dd_hh-mm-ss'.db'");
+    QVERIFY2(stamp.isValid(), qPrintable(files.constFirst()));
+    QVERIFY(stamp.secsTo(before) <= 1 && stamp <= QDateTime::currentDateTime());
+    QCOMPARE(DatabaseFiles::storeName(inFolder("backups/") + files.constFirst()),
+             QStringLiteral("live"));
+    QVERIFY(DatabaseManager::isZelvanDatabase(inFolder("backups/") + files.constFirst()));
+    QVERIFY(DatabaseManager::connection().isOpen());
+}
+
+void tst_DatabaseService::aBackupWorksInAnyFolder_data()
+{
+    addFolderNames();
+}
+
+void tst_DatabaseService::aBackupWorksInAnyFolder()
+{
+    QFETCH(QString, name);
+    openStore(inFolder(name + "/Zelvan.db"));
+
+    QVERIFY(m_service.backupDatabase());
+
+    const QString backups = inFolder(name + "/backups");
+    QCOMPARE(filesIn(backups).size(), 1);
+    QCOMPARE(DatabaseFiles::storeName(backups + '/' + filesIn(backups).constFirst()),
+             QStringLiteral("live"));
+}
+
+void tst_DatabaseService::aBackupHoldsWhatIsStillInTheWriteAheadLog()
+{
+    openStore(inFolder("Zelvan.db"));
+    DatabaseFiles::run(inFolder("Zelvan.db"), "UPDATE restaurant SET name = 'changed'");
+
+    QVERIFY(m_service.backupDatabase());
+
+    QCOMPARE(
+        DatabaseFiles::storeName(inFolder("backups/") + filesIn(inFolder("backups")).constFirst()),
+        QStringLiteral("changed"));
+}
+
+void tst_DatabaseService::aSecondBackupInTheSameSecondFails()
+{
+    openStore(inFolder("Zelvan.db"));
+    takeBackupNamesOfTheNextSeconds(inFolder("backups"));
+    const QStringList before = filesIn(inFolder("backups"));
+
+    expectLog(QtInfoMsg, "Creating backup with SQL.");
+    expectLog(QtWarningMsg, "Backup failed:");
+    QVERIFY(!m_service.backupDatabase());
+
+    QCOMPARE(filesIn(inFolder("backups")), before);
+}
+
+void tst_DatabaseService::aBackupOfAMissingFileFails()
+{
+    m_app.setDatabasePath(inFolder("gone.db"));
+
+    expectLog(QtWarningMsg,
+              QStringLiteral("Database file does not exist: \"%1\"").arg(inFolder("gone.db")));
+    QVERIFY(!m_service.backupDatabase());
+
+    QVERIFY(!QFile::exists(inFolder("backups")));
+}
+
+void tst_DatabaseService::aBackupFailsWhereItsFolderCannotBeMade()
+{
+    openStore(inFolder("Zelvan.db"));
+    DatabaseFiles::makeText(inFolder("backups"));
+
+    expectLog(QtWarningMsg, "Failed to create backup directory.");
+    QVERIFY(!m_service.backupDatabase());
+}
+
+void tst_DatabaseService::aBackupNeedsAnOpenDatabase()
+{
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    m_app.setDatabasePath(inFolder("Zelvan.db"));
+
+    expectLog(QtWarningMsg, "Database is not open.");
+    QVERIFY(!m_service.backupDatabase());
+
+    QVERIFY(filesIn(inFolder("backups")).isEmpty());
+}
+
+void tst_DatabaseService::aBackupNeedsACheckpoint()
+{
+    openStore(inFolder("Zelvan.db"));
+    QVERIFY(DatabaseManager::beginTransaction());
+    QVERIFY(QSqlQuery(DatabaseManager::connection()).exec("DELETE FROM restaurant"));
+
+    expectLog(QtWarningMsg, "Failed to checkpoint WAL:");
+    expectLog(QtWarningMsg, "Failed to checkpoint database before backup.");
+    QVERIFY(!m_service.backupDatabase());
+
+    QVERIFY(filesIn(inFolder("backups")).isEmpty());
+    QVERIFY(DatabaseManager::rollbackTransaction());
+}
+
+void tst_DatabaseService::aRestoreIsOnlyStaged()
+{
+    openStore(inFolder("Zelvan.db"));
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    QVERIFY(DatabaseManager::initialize(inFolder("Zelvan.db")));
+
+    QVERIFY(m_service.restoreDatabase(inFolder("old.db")));
+
+    QCOMPARE(QSettings().value(SettingsKeys::pendingRestore).toString(), inFolder("old.db"));
+    QCOMPARE(m_app.databasePath(), inFolder("Zelvan.db"));
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("live"));
+    QVERIFY(DatabaseManager::connection().isOpen());
+}
+
+void tst_DatabaseService::aSecondRestoreKeepsTheLastPath()
+{
+    DatabaseFiles::makeStore(inFolder("one.db"), "one");
+    DatabaseFiles::makeStore(inFolder("two.db"), "two");
+
+    QVERIFY(m_service.restoreDatabase(inFolder("one.db")));
+    QVERIFY(m_service.restoreDatabase(inFolder("two.db")));
+
+    QCOMPARE(QSettings().value(SettingsKeys::pendingRestore).toString(), inFolder("two.db"));
+}
+
+void tst_DatabaseService::anUnfitRestoreFileIsRefusedAtOnce_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("ownLine");
+    QTest::addColumn<QString>("connectionLine");
+
+    QTest::newRow("missing") << "gone.db"
+                             << "Database file does not exist"
+                             << "";
+    QTest::newRow("a folder") << "folder"
+                              << "Unable to open database file"
+                              << "Failed to open database test connection:";
+    QTest::newRow("another program's") << "foreign.db"
+                                       << "Database is not a Zelvan Database"
+                                       << "Failed to check database identity:";
+    QTest::newRow("a text") << "text.db"
+                            << "Database is not a Zelvan Database"
+                            << "Failed to check database identity:";
+}
+
+void tst_DatabaseService::anUnfitRestoreFileIsRefusedAtOnce()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, ownLine);
+    QFETCH(QString, connectionLine);
+    QDir().mkpath(inFolder("folder"));
+    DatabaseFiles::makeForeign(inFolder("foreign.db"));
+    DatabaseFiles::makeText(inFolder("text.db"));
+
+    if (!connectionLine.isEmpty()) {
+        expectLog(QtWarningMsg, connectionLine);
+    }
+    expectLog(QtWarningMsg, ownLine);
+    QVERIFY(!m_service.restoreDatabase(inFolder(name)));
+
+    QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+}
+
+void tst_DatabaseService::anOpenedDatabaseBecomesTheConfiguredOne()
+{
+    openStore(inFolder("Zelvan.db"));
+    DatabaseFiles::makeStore(inFolder("other.db"), "other");
+    QVERIFY(DatabaseManager::initialize(inFolder("Zelvan.db")));
+
+    expectLog(QtInfoMsg, "Database selected successfully.");
+    QVERIFY(m_service.openDatabase(inFolder("other.db")));
+
+    QCOMPARE(m_app.databasePath(), inFolder("other.db"));
+    QCOMPARE(DatabaseManager::connection().databaseName(), inFolder("Zelvan.db"));
+}
+
+void tst_DatabaseService::anUnfitDatabaseIsNotOpened_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("ownLine");
+    QTest::addColumn<QString>("connectionLine");
+
+    QTest::newRow("missing") << "gone.db"
+                             << "Database file does not exist."
+                             << "";
+    QTest::newRow("empty path") << ""
+                                << "Database file does not exist."
+                                << "";
+    QTest::newRow("a folder") << "folder"
+                              << "Database file does not exist."
+                              << "";
+    QTest::newRow("path too long") << "long"
+                                   << "Database cannot be opened."
+                                   << "Failed to open database test connection:";
+    QTest::newRow("another program's") << "foreign.db"
+                                       << "Database is not a Zelvan database."
+                                       << "Failed to check database identity:";
+    QTest::newRow("a text") << "text.db"
+                            << "Database is not a Zelvan database."
+                            << "Failed to check database identity:";
+}
+
+void tst_DatabaseService::anUnfitDatabaseIsNotOpened()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, ownLine);
+    QFETCH(QString, connectionLine);
+    QDir().mkpath(inFolder("folder"));
+    DatabaseFiles::makeForeign(inFolder("foreign.db"));
+    DatabaseFiles::makeText(inFolder("text.db"));
+    QString path = name.isEmpty() ? QString() : inFolder(name);
+    if (name == QLatin1String("long")) {
+        DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+        path = DatabaseFiles::makeUnopenableFolder(m_folder->path()) + "/Zelvan.db";
+        QVERIFY(QFile::copy(inFolder("Zelvan.db"), path));
+    }
+
+    if (!connectionLine.isEmpty()) {
+        expectLog(QtWarningMsg, connectionLine);
+    }
+    expectLog(QtWarningMsg, ownLine);
+    QVERIFY(!m_service.openDatabase(path));
+
+    QVERIFY(!m_app.hasDatabasePath());
+}
+
+ZELVAN_TEST(tst_DatabaseService)
+#include "tst_databaseservice.moc"

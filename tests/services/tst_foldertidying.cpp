@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "services/FolderTidying.h"
+#include "support/DatabaseFiles.h"
+#include "support/UnprivilegedUser.h"
+#include "support/ZelvanTest.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <memory>
+#include <sys/stat.h>
+
+class tst_FolderTidying : public ZelvanTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void foldersAloneAreNoFile();
+    void anyKindOfEntryCounts_data();
+    void anyKindOfEntryCounts();
+    void aFolderThatIsNotThereCountsAsNotEmpty();
+    void aFolderThatCannotBeReadCountsAsNotEmpty();
+
+private:
+    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_FolderTidying::init()
+{
+    ZelvanTest::init();
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void tst_FolderTidying::foldersAloneAreNoFile()
+{
+    QDir().mkpath(inFolder("a/b/c"));
+    QDir().mkpath(inFolder("a/.hidden folder"));
+
+    QVERIFY(holdsNoFile(QDir(m_folder->path())));
+}
+
+void tst_FolderTidying::anyKindOfEntryCounts_data()
+{
+    QTest::addColumn<QString>("kind");
+
+    for (const char *kind : {"file", "hidden file", "link to a file", "link to a folder",
+                             "dangling link", "pipe", "Chinese name"}) {
+        QTest::newRow(kind) << kind;
+    }
+}
+
+void tst_FolderTidying::anyKindOfEntryCounts()
+{
+    QFETCH(QString, kind);
+    const QTemporaryDir elsewhere;
+    const QString target = elsewhere.filePath("target");
+    QDir().mkpath(inFolder("a/b"));
+
+    if (kind == QLatin1String("link to a file")) {
+        DatabaseFiles::makeText(target);
+    } else if (kind == QLatin1String("link to a folder")) {
+        QDir().mkpath(target);
+    }
+    if (kind.contains("link")) {
+        QVERIFY(QFile::link(target, inFolder("a/b/entry")));
+    } else if (kind == QLatin1String("pipe")) {
+        QCOMPARE(mkfifo(QFile::encodeName(inFolder("a/b/entry")).constData(), 0600), 0);
+    } else if (kind == QLatin1String("hidden file")) {
+        DatabaseFiles::makeText(inFolder("a/b/.entry"));
+    } else if (kind == QLatin1String("Chinese name")) {
+        DatabaseFiles::makeText(inFolder(QString::fromUtf8("a/b/备份")));
+    } else {
+        DatabaseFiles::makeText(inFolder("a/b/entry"));
+    }
+
+    QVERIFY(!holdsNoFile(QDir(m_folder->path())));
+}
+
+void tst_FolderTidying::aFolderThatIsNotThereCountsAsNotEmpty()
+{
+    QVERIFY(!holdsNoFile(QDir(inFolder("gone"))));
+}
+
+void tst_FolderTidying::aFolderThatCannotBeReadCountsAsNotEmpty()
+{
+    const QByteArray closedFolder = QFile::encodeName(inFolder("a/closed"));
+    QDir().mkpath(inFolder("a/closed"));
+    QDir home(m_folder->path());
+    for (int level = 0; level < 3; ++level) {
+        chmod(QFile::encodeName(home.absolutePath()).constData(), 0755);
+        home.cdUp();
+    }
+    chmod(closedFolder.constData(), 0000);
+
+    bool empty = true;
+    bool emptyBesideIt = false;
+    {
+        const UnprivilegedUser nobody;
+        empty = holdsNoFile(QDir(inFolder("a")));
+    }
+    chmod(closedFolder.constData(), 0755);
+    {
+        const UnprivilegedUser nobody;
+        emptyBesideIt = holdsNoFile(QDir(inFolder("a")));
+    }
+
+    QVERIFY(!empty);
+    QVERIFY(emptyBesideIt);
+}
+
+ZELVAN_TEST(tst_FolderTidying)
+#include "tst_foldertidying.moc"

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "core/DatabaseManager.h"
+#include "services/DatabaseService.h"
+#include "services/SettingsKeys.h"
+#include "support/DatabaseFiles.h"
+#include "support/ZelvanTest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// What the start of the program does with a staged backup.
+class tst_PendingRestore : public ZelvanTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void nothingStagedIsNothingToDo();
+    void withoutAConfiguredPathTheStagedFileWaits();
+    void theStagedFileTakesThePlaceOfTheConfiguredOne_data();
+    void theStagedFileTakesThePlaceOfTheConfiguredOne();
+    void theFolderOfTheConfiguredPathIsMade();
+    void leftoversOfTheOldDatabaseGo();
+    void anUnfitStagedFileIsForgotten_data();
+    void anUnfitStagedFileIsForgotten();
+    void aFileSwappedAfterTheStagingIsRefused();
+    void aFailedCopyIsTriedAgainAtTheNextStart();
+    void theLiveFileItselfIsNotLost();
+
+private:
+    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
+    static void stage(const QString &staged, const QString &configured);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_PendingRestore::init()
+{
+    ZelvanTest::init();
+    QSettings().clear();
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void tst_PendingRestore::stage(const QString &staged, const QString &configured)
+{
+    QSettings settings;
+    settings.setValue(SettingsKeys::pendingRestore, staged);
+    settings.setValue(SettingsKeys::databasePath, configured);
+}
+
+void tst_PendingRestore::nothingStagedIsNothingToDo()
+{
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    QSettings().setValue(SettingsKeys::databasePath, inFolder("Zelvan.db"));
+
+    QVERIFY(DatabaseService::applyPendingRestore());
+
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("live"));
+}
+
+void tst_PendingRestore::withoutAConfiguredPathTheStagedFileWaits()
+{
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    QSettings().setValue(SettingsKeys::pendingRestore, inFolder("old.db"));
+
+    QVERIFY(!DatabaseService::applyPendingRestore());
+
+    QCOMPARE(QSettings().value(SettingsKeys::pendingRestore).toString(), inFolder("old.db"));
+}
+
+void tst_PendingRestore::theStagedFileTakesThePlaceOfTheConfiguredOne_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("plain") << "data";
+    QTest::newRow("apostrophe") << "Alice's";
+    QTest::newRow("blank") << "my data";
+    QTest::newRow("hash") << "a#b";
+    QTest::newRow("percent") << "100%20";
+    QTest::newRow("Chinese") << QString::fromUtf8("餐厅");
+}
+
+void tst_PendingRestore::theStagedFileTakesThePlaceOfTheConfiguredOne()
+{
+    QFETCH(QString, name);
+    const QString live = inFolder(name + "/Zelvan.db");
+    const QString old = inFolder(name + "/backups/old.db");
+    DatabaseFiles::makeStore(live, "live");
+    DatabaseFiles::makeStore(old, "old");
+    stage(old, live);
+
+    QVERIFY(DatabaseService::applyPendingRestore());
+
+    QCOMPARE(DatabaseFiles::storeName(live), QStringLiteral("old"));
+    QCOMPARE(DatabaseFiles::storeName(old), QStringLiteral("old"));
+    QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+    QVERIFY(!QSqlDatabase::contains(DatabaseManager::mainConnectionName));
+}
+
+void tst_PendingRestore::theFolderOfTheConfiguredPathIsMade()
+{
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    stage(inFolder("old.db"), inFolder("a/b/Zelvan.db"));
+
+    QVERIFY(DatabaseService::applyPendingRestore());
+
+    QCOMPARE(DatabaseFiles::storeName(inFolder("a/b/Zelvan.db")), QStringLiteral("old"));
+}
+
+void tst_PendingRestore::leftoversOfTheOldDatabaseGo()
+{
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    DatabaseFiles::makeText(inFolder("Zelvan.db"));
+    DatabaseFiles::makeText(inFolder("Zelvan.db-wal"));
+    DatabaseFiles::makeText(inFolder("Zelvan.db-shm"));
+    stage(inFolder("old.db"), inFolder("Zelvan.db"));
+
+    QVERIFY(DatabaseService::applyPendingRestore());
+
+    QVERIFY(!QFile::exists(inFolder("Zelvan.db-wal")));
+    QVERIFY(!QFile::exists(inFolder("Zelvan.db-shm")));
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("old"));
+}
+
+void tst_PendingRestore::anUnfitStagedFileIsForgotten_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("ownLine");
+    QTest::addColumn<QString>("connectionLine");
+
+    QTest::newRow("missing") << "gone.db"
+                             << "Database restore file does not exist"
+                             << "";
+    QTest::newRow("a folder") << "folder"
+                              << "Unable to open database file"
+                              << "Failed to open database test connection:";
+    QTest::newRow("another program's") << "foreign.db"
+                                       << "Database is not a Zelvan Database"
+                                       << "Failed to check database identity:";
+}
+
+void tst_PendingRestore::anUnfitStagedFileIsForgotten()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, ownLine);
+    QFETCH(QString, connectionLine);
+    QDir().mkpath(inFolder("folder"));
+    DatabaseFiles::makeForeign(inFolder("foreign.db"));
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    stage(inFolder(name), inFolder("Zelvan.db"));
+
+    if (!connectionLine.isEmpty()) {
+        expectLog(QtWarningMsg, connectionLine);
+    }
+    expectLog(QtWarningMsg, ownLine);
+    QVERIFY(!DatabaseService::applyPendingRestore());
+
+    QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("live"));
+}
+
+void tst_PendingRestore::aFileSwappedAfterTheStagingIsRefused()
+{
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    stage(inFolder("old.db"), inFolder("Zelvan.db"));
+    QVERIFY(QFile::remove(inFolder("old.db")));
+    DatabaseFiles::makeForeign(inFolder("old.db"));
+
+    expectLog(QtWarningMsg, "Failed to check database identity:");
+    expectLog(QtWarningMsg, "Database is not a Zelvan Database");
+    QVERIFY(!DatabaseService::applyPendingRestore());
+
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("live"));
+}
+
+void tst_PendingRestore::aFailedCopyIsTriedAgainAtTheNextStart()
+{
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    QDir().mkpath(inFolder("Zelvan.db/in the way"));
+    stage(inFolder("old.db"), inFolder("Zelvan.db"));
+
+    QVERIFY(!DatabaseService::applyPendingRestore());
+
+    QCOMPARE(QSettings().value(SettingsKeys::pendingRestore).toString(), inFolder("old.db"));
+    QVERIFY(QDir(inFolder("Zelvan.db")).removeRecursively());
+    QVERIFY(DatabaseService::applyPendingRestore());
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("old"));
+    QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+}
+
+void tst_PendingRestore::theLiveFileItselfIsNotLost()
+{
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    stage(m_folder->path() + "/./Zelvan.db", inFolder("Zelvan.db"));
+
+    QVERIFY(DatabaseService::applyPendingRestore());
+
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("live"));
+    QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+}
+
+ZELVAN_TEST(tst_PendingRestore)
+#include "tst_pendingrestore.moc"
