@@ -239,7 +239,7 @@ bool DatabaseManager::isZelvanDatabase(const QString &path)
     ShortLivedConnection connection(QStringLiteral("zelvan_db_validation"), path);
     if (!connection.handle().open()) {
         qCWarning(lcDatabase) << "Failed to open database for Zelvan validation:"
-                              << connection.handle().lastError();
+                              << connection.handle().lastError().text();
         return false;
     }
     QSqlQuery query(connection.handle());
@@ -247,7 +247,7 @@ bool DatabaseManager::isZelvanDatabase(const QString &path)
         query.prepare(QStringLiteral("SELECT value FROM app_state WHERE key = 'app.id' LIMIT 1")) &&
         query.exec();
     if (!ran) {
-        qCWarning(lcDatabase) << "Failed to check database identity:" << query.lastError();
+        qCWarning(lcDatabase) << "Failed to check database identity:" << query.lastError().text();
         return false;
     }
     return query.next() && query.value(0).toString() == Identity::appId;

@@ -82,7 +82,7 @@ bool DatabaseSeeder::seedAppState()
         query.bindValue(QStringLiteral(":key"), key);
         query.bindValue(QStringLiteral(":value"), value);
         if (!query.exec()) {
-            qCWarning(lcSeeder) << "Failed to seed app state:" << query.lastError().text();
+            qCWarning(lcSeeder) << "Failed to seed app state:" << query.lastError();
             return false;
         }
     }
@@ -92,7 +92,7 @@ bool DatabaseSeeder::seedAppState()
 bool DatabaseSeeder::seedSettings()
 {
     if (!m_database.transaction()) {
-        qCWarning(lcSeeder) << "Failed to start seed transaction:" << m_database.lastError().text();
+        qCWarning(lcSeeder) << "Failed to start seed transaction:" << m_database.lastError();
         return false;
     }
     for (const SettingsInsert &insert : settingsInserts) {
@@ -102,7 +102,7 @@ bool DatabaseSeeder::seedSettings()
         }
     }
     if (!m_database.commit()) {
-        qCWarning(lcSeeder) << "Failed to commit settings seed:" << m_database.lastError().text();
+        qCWarning(lcSeeder) << "Failed to commit settings seed:" << m_database.lastError();
         m_database.rollback();
         return false;
     }
@@ -115,7 +115,7 @@ bool DatabaseSeeder::runSettingsInsert(const char *sql, const char *failureText)
     if (query.exec(QString::fromLatin1(sql))) {
         return true;
     }
-    qCWarning(lcSeeder) << failureText << query.lastError().text();
+    qCWarning(lcSeeder) << failureText << query.lastError();
     return false;
 }
 

@@ -132,7 +132,10 @@ void logMessageHandler(QtMsgType type, const QMessageLogContext &context, const 
     const QString line =
         QStringLiteral("%1 [%2] [%3] %4")
             .arg(time, levelText(type), QString::fromUtf8(context.category), message);
-    log.stream << line << Qt::endl;
+    // A day whose file could not be opened goes on without one, and without a word about it.
+    if (log.file.isOpen()) {
+        log.stream << line << Qt::endl;
+    }
     const QByteArray bytes = line.toUtf8() + '\n';
     std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
     std::fflush(stderr);

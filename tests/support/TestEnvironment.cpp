@@ -30,7 +30,7 @@ TestEnvironment::TestEnvironment()
     }
 }
 
-void TestEnvironment::nameApplication() const
+void TestEnvironment::nameApplication()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Zelvan"));
     QCoreApplication::setApplicationName(QStringLiteral("ZelvanPOS"));

@@ -12,7 +12,7 @@ public:
     TestEnvironment();
 
     /// Organisation and application as the program sets them.
-    void nameApplication() const;
+    static void nameApplication();
 
 private:
     QTemporaryDir m_home;

@@ -10,10 +10,29 @@
 #include <memory>
 
 namespace {
+constexpr char childPrefix[] = "child:";
+constexpr int childPrefixLength = sizeof(childPrefix) - 1;
+
 QMap<QString, TestRegistry::Factory> &registry()
 {
     static QMap<QString, TestRegistry::Factory> factories;
     return factories;
+}
+
+QMap<QString, TestRegistry::Child> &children()
+{
+    static QMap<QString, TestRegistry::Child> functions;
+    return functions;
+}
+
+/// "program child:name arguments": runs in the surroundings that the calling test gave it.
+int runChild(int argc, char **argv)
+{
+    QGuiApplication app(argc, argv);
+    TestEnvironment::nameApplication();
+    const QStringList arguments = QCoreApplication::arguments();
+    const TestRegistry::Child child = children().value(arguments.at(1).mid(childPrefixLength));
+    return child ? child(arguments.mid(2)) : 2;
 }
 
 int listClasses()
@@ -31,12 +50,21 @@ bool TestRegistry::add(const char *className, Factory factory)
     return true;
 }
 
+bool TestRegistry::addChild(const char *name, Child child)
+{
+    children().insert(QString::fromLatin1(name), std::move(child));
+    return true;
+}
+
 /// "program tst_class [QtTest arguments]": one class a process, each in surroundings of its own.
 int main(int argc, char **argv)
 {
+    if (argc > 1 && qstrncmp(argv[1], childPrefix, childPrefixLength) == 0) {
+        return runChild(argc, argv);
+    }
     const TestEnvironment environment;
     QGuiApplication app(argc, argv);
-    environment.nameApplication();
+    TestEnvironment::nameApplication();
 
     QStringList arguments = QCoreApplication::arguments();
     const QString name = arguments.value(1);

@@ -26,8 +26,15 @@ namespace TestRegistry {
 using Factory = std::function<QObject *()>;
 /// Makes the class known to the test program under its lower-case name.
 bool add(const char *className, Factory factory);
+
+using Child = std::function<int(const QStringList &arguments)>;
+/// Makes a function known that the test program runs in a process of its own; see ChildProcess.
+bool addChild(const char *name, Child child);
 } // namespace TestRegistry
 
 #define ZELVAN_TEST(Class)                                                                         \
     static const bool registered##Class =                                                          \
         TestRegistry::add(#Class, [] { return static_cast<QObject *>(new Class); });
+
+#define ZELVAN_TEST_CHILD(function)                                                                \
+    static const bool registeredChild##function = TestRegistry::addChild(#function, function);

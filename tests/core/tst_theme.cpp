@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "core/SystemTheme.h"
+#include "core/Theme.h"
+#include "support/ZelvanTest.h"
+
+#include <QColor>
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QSignalSpy>
+
+class tst_Theme : public ZelvanTest
+{
+    Q_OBJECT
+
+private slots:
+    void coloursFollowTheMode_data();
+    void coloursFollowTheMode();
+    void primaryAndErrorAreFunctionsOnly();
+    void sizesAreCutNotRounded_data();
+    void sizesAreCutNotRounded();
+    void aNewScaleIsToldOnce();
+    void aScaleThatIsAlmostTheSameCountsAsEqual();
+    void aChangeOfTheDesktopIsPassedOn();
+    void everyPropertyIsNotifiedByTheOneSignal();
+    void aLightDesktopIsLight();
+};
+
+void tst_Theme::coloursFollowTheMode_data()
+{
+    QTest::addColumn<QString>("dark");
+    QTest::addColumn<QString>("light");
+
+    QTest::newRow("background") << "#121212"
+                                << "#FFFFFF";
+    QTest::newRow("surface") << "#1E1E1E"
+                             << "#F5F5F5";
+    QTest::newRow("border") << "#2A2A2A"
+                            << "#DDDDDD";
+    QTest::newRow("text") << "#FFFFFF"
+                          << "#000000";
+    QTest::newRow("secondaryText") << "#AAAAAA"
+                                   << "#555555";
+    QTest::newRow("orange") << "#FFB74D"
+                            << "#F57C00";
+    QTest::newRow("green") << "#66BB6A"
+                           << "#2E7D32";
+    QTest::newRow("primary") << "#9a7bff"
+                             << "#9a7bff";
+    QTest::newRow("error") << "#ff0000"
+                           << "#ff0000";
+}
+
+void tst_Theme::coloursFollowTheMode()
+{
+    QFETCH(QString, dark);
+    QFETCH(QString, light);
+    const char *name = QTest::currentDataTag();
+    for (const bool isDark : {true, false}) {
+        SystemTheme system(isDark);
+        Theme theme(&system);
+        const QColor expected(isDark ? dark : light);
+
+        QColor invoked;
+        QVERIFY(QMetaObject::invokeMethod(&theme, name, Q_RETURN_ARG(QColor, invoked)));
+
+        QCOMPARE(system.darkMode(), isDark);
+        QCOMPARE(invoked, expected);
+        if (theme.metaObject()->indexOfProperty(name) >= 0) {
+            QCOMPARE(theme.property(name).value<QColor>(), expected);
+        }
+    }
+}
+
+void tst_Theme::primaryAndErrorAreFunctionsOnly()
+{
+    const QMetaObject &meta = Theme::staticMetaObject;
+
+    QCOMPARE(meta.indexOfProperty("primary"), -1);
+    QCOMPARE(meta.indexOfProperty("error"), -1);
+    for (const char *name :
+         {"background", "surface", "border", "text", "secondaryText", "orange", "green"}) {
+        QVERIFY2(meta.indexOfProperty(name) >= 0, name);
+        QVERIFY2(!meta.property(meta.indexOfProperty(name)).isWritable(), name);
+    }
+}
+
+void tst_Theme::sizesAreCutNotRounded_data()
+{
+    QTest::addColumn<int>("base");
+    QTest::addColumn<int>("atStart");
+
+    QTest::newRow("fontSmall") << 12 << 14;
+    QTest::newRow("fontNormal") << 14 << 16;
+    QTest::newRow("fontMedium") << 16 << 19;
+    QTest::newRow("fontLarge") << 18 << 21;
+    QTest::newRow("fontXL") << 24 << 28;
+    QTest::newRow("fontXXL") << 28 << 33;
+}
+
+void tst_Theme::sizesAreCutNotRounded()
+{
+    QFETCH(int, base);
+    QFETCH(int, atStart);
+    const char *name = QTest::currentDataTag();
+    SystemTheme system(false);
+    Theme theme(&system);
+
+    QCOMPARE(theme.fontScale(), 1.2);
+    QCOMPARE(theme.property(name).toInt(), atStart);
+    theme.setFontScale(1.0);
+    QCOMPARE(theme.property(name).toInt(), base);
+    QVERIFY(!theme.metaObject()->property(theme.metaObject()->indexOfProperty(name)).isWritable());
+}
+
+void tst_Theme::aNewScaleIsToldOnce()
+{
+    SystemTheme system(false);
+    Theme theme(&system);
+    const QSignalSpy changed(&theme, &Theme::themeChanged);
+
+    QVERIFY(theme.setProperty("fontScale", 1.0));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(theme.fontNormal(), 14);
+
+    QVERIFY(theme.setProperty("fontScale", 1.0));
+    QCOMPARE(changed.count(), 1);
+}
+
+void tst_Theme::aScaleThatIsAlmostTheSameCountsAsEqual()
+{
+    SystemTheme system(false);
+    Theme theme(&system);
+    const QSignalSpy changed(&theme, &Theme::themeChanged);
+
+    theme.setFontScale(1.2 + 1e-13);
+    QCOMPARE(changed.count(), 0);
+
+    theme.setFontScale(1.2 + 1e-11);
+    QCOMPARE(changed.count(), 1);
+}
+
+void tst_Theme::aChangeOfTheDesktopIsPassedOn()
+{
+    SystemTheme system(false);
+    Theme theme(&system);
+    connect(&system, &SystemTheme::darkModeChanged, &theme, &Theme::onSystemThemeChanged);
+    const QSignalSpy changed(&theme, &Theme::themeChanged);
+
+    emit system.darkModeChanged();
+
+    QCOMPARE(changed.count(), 1);
+}
+
+void tst_Theme::everyPropertyIsNotifiedByTheOneSignal()
+{
+    const QMetaObject &meta = Theme::staticMetaObject;
+
+    for (int index = meta.propertyOffset(); index < meta.propertyCount(); ++index) {
+        const QMetaProperty property = meta.property(index);
+        QCOMPARE(property.notifySignal().name(), QByteArray("themeChanged"));
+    }
+    const QMetaObject &system = SystemTheme::staticMetaObject;
+    const QMetaProperty darkMode = system.property(system.indexOfProperty("darkMode"));
+    QCOMPARE(darkMode.notifySignal().name(), QByteArray("darkModeChanged"));
+    QVERIFY(!darkMode.isWritable());
+}
+
+void tst_Theme::aLightDesktopIsLight()
+{
+    // The desktop of the tests names no scheme and has a light palette.
+    SystemTheme system;
+    Theme theme(&system);
+
+    QVERIFY(!system.darkMode());
+    QCOMPARE(theme.background(), QColor(QStringLiteral("#FFFFFF")));
+}
+
+ZELVAN_TEST(tst_Theme)
+#include "tst_theme.moc"
