@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "services/MenuService.h"
 
+#include "core/Arithmetic.h"
 #include "core/Logging.h"
-#include "core/WholeNumber.h"
 #include "repositories/CategoryRepository.h"
 #include "repositories/MenuRepository.h"
 
@@ -17,7 +17,7 @@ bool isBlank(const QString &text)
 int centsOf(double price)
 {
     const double cents = 100.0 * price;
-    return truncatedToInt(cents + (cents >= 0.0 ? 0.5 : -0.5));
+    return Arithmetic::truncate<int>(cents + (cents >= 0.0 ? 0.5 : -0.5));
 }
 
 QString orEmpty(const QString &portion)

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "services/SettingService.h"
 
+#include "core/Arithmetic.h"
 #include "core/Logging.h"
-#include "core/WholeNumber.h"
 #include "repositories/KitchenSettingsRepository.h"
 #include "repositories/MembershipSettingsRepository.h"
 #include "repositories/PrinterRepository.h"
@@ -41,7 +41,7 @@ QString orEmpty(const std::optional<QString> &text)
 /// Truncated and not rounded, on purpose: 0.29 is 28.
 int truncatedCents(const QVariantMap &map, const char *key)
 {
-    return truncatedToInt(map.value(QLatin1String(key)).toDouble() * 100.0);
+    return Arithmetic::truncate<int>(map.value(QLatin1String(key)).toDouble() * 100.0);
 }
 
 QVariantMap printerMap(const Printer &printer)
