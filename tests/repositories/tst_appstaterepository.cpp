@@ -49,7 +49,7 @@ void tst_AppStateRepository::savingAnExistingKeyReplacesTheValueAndMovesOnlyTheT
     QCOMPARE(f.db.value(QStringLiteral("SELECT COUNT(*) FROM app_state")).toInt(), 1);
     QCOMPARE(f.db.value(QStringLiteral("SELECT created_at FROM app_state")).toString(),
              QStringLiteral("2001-01-01 00:00:00"));
-    QVERIFY(f.db.value(QStringLiteral("SELECT updated_at > '2020' FROM app_state")).toBool());
+    QVERIFY(f.db.value(QStringLiteral("SELECT updated_at > '2020-01-01' FROM app_state")).toBool());
 }
 
 void tst_AppStateRepository::anEmptyValueIsNotAnAbsentOne()

@@ -76,10 +76,10 @@ void tst_CategoryRepository::anUpdateRenames()
     f.categories.create(categoryNamed(QStringLiteral("Soups")));
     f.categories.create(categoryNamed(QStringLiteral("Drinks")));
 
-    f.categories.update(categoryNamed(QStringLiteral("Beverages"), 2));
+    f.categories.update(categoryNamed(QStringLiteral("Broths"), 1));
 
-    QCOMPARE(f.categories.getCategoryById(1)->category, QStringLiteral("Soups"));
-    QCOMPARE(f.categories.getCategoryById(2)->category, QStringLiteral("Beverages"));
+    QCOMPARE(f.categories.getCategoryById(1)->category, QStringLiteral("Broths"));
+    QCOMPARE(f.categories.getCategoryById(2)->category, QStringLiteral("Drinks"));
 }
 
 void tst_CategoryRepository::removingTakesTheItemsAlong()

@@ -124,7 +124,7 @@ void tst_MembershipRepository::movingPointsStampsTheChange()
     QVERIFY(f.members.adjustPoints(2, QStringLiteral("subtract"), 1));
 
     QCOMPARE(f.db.value(QStringLiteral("SELECT COUNT(*) FROM memberships WHERE created_at = '2001' "
-                                       "AND updated_at > '2020'"))
+                                       "AND updated_at > '2020-01-01'"))
                  .toInt(),
              2);
 }
@@ -155,7 +155,8 @@ void tst_MembershipRepository::anUpdateNeverTouchesThePoints()
     QCOMPARE(f.members.getById(1).phone_number, QStringLiteral("2"));
     QCOMPARE(f.members.getById(1).status, QStringLiteral("revoked"));
     QCOMPARE(f.members.getById(1).total_points, 100);
-    QVERIFY(f.db.value(QStringLiteral("SELECT updated_at > '2020' FROM memberships")).toBool());
+    QVERIFY(
+        f.db.value(QStringLiteral("SELECT updated_at > '2020-01-01' FROM memberships")).toBool());
 }
 
 void tst_MembershipRepository::aRemovedMemberIsGone()

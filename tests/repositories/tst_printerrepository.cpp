@@ -73,9 +73,10 @@ void tst_PrinterRepository::anUpdateChangesTheFieldsAndStampsTheChange()
     QCOMPARE(found->role, QStringLiteral("kitchen"));
     QCOMPARE(found->paper_width, 58);
     QCOMPARE(found->cut_mode, QStringLiteral("none"));
-    QVERIFY(f.db.value(QStringLiteral("SELECT updated_at > '2020' AND created_at = '2001' FROM "
-                                      "printers"))
-                .toBool());
+    QVERIFY(
+        f.db.value(QStringLiteral("SELECT updated_at > '2020-01-01' AND created_at = '2001' FROM "
+                                  "printers"))
+            .toBool());
 }
 
 void tst_PrinterRepository::anUpdateOfNoPrinterChangesNothing()

@@ -129,8 +129,9 @@ void tst_ReservationRepository::anUpdateChangesEveryFieldAndStampsTheChange()
     QCOMPARE(found.duration_minutes, 60);
     QCOMPARE(found.status, QStringLiteral("seated"));
     QCOMPARE(found.notes, QStringLiteral("garden"));
-    QVERIFY(f.db.value(QStringLiteral(
-                           "SELECT updated_at > '2020' AND created_at = '2001' FROM reservations"))
+    QVERIFY(f.db
+                .value(QStringLiteral(
+                    "SELECT updated_at > '2020-01-01' AND created_at = '2001' FROM reservations"))
                 .toBool());
 }
 
