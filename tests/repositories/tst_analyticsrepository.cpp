@@ -1,12 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/AnalyticsRepository.h"
+
+#include "core/DatabaseManager.h"
+#include "support/ChildProcess.h"
 #include "support/LogRecorder.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 
 #include <QDate>
 #include <QDateTime>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+
+#include <cstdio>
 
 namespace {
 struct Fixture
@@ -48,6 +55,26 @@ const QString lastSecondOfToday =
     QStringLiteral("DATETIME('now', 'start of day', '+86399 seconds')");
 const QString yesterday = QStringLiteral("DATETIME('now', 'start of day', '-1 second')");
 
+/// Sells for 1000 cents now and prints the last two of the seven days.
+int sellAndListDays(const QStringList &arguments)
+{
+    if (!DatabaseManager::initialize(arguments.at(0))) {
+        return 1;
+    }
+    QSqlQuery(
+        QStringLiteral("INSERT INTO order_sessions (display_number, order_type, status, total, "
+                       "closed_at) VALUES (1, 'takeaway', 'paid', 1000, CURRENT_TIMESTAMP)"),
+        DatabaseManager::connection());
+    const QList<DayRevenue> days =
+        AnalyticsRepository(DatabaseManager::connection()).revenueLastSevenDays();
+    for (const DayRevenue &day : days.mid(5)) {
+        std::printf("%s %d,", qPrintable(day.day), static_cast<int>(day.amount));
+    }
+    return 0;
+}
+
+ZELVAN_TEST_CHILD(sellAndListDays)
+
 QString failure(const char *operation)
 {
     return QStringLiteral("warning [database] AnalyticsRepository::%1 failed: <QSqlError>")
@@ -60,6 +87,7 @@ class tst_AnalyticsRepository : public ZelvanTest
     Q_OBJECT
 
 private slots:
+    void initTestCase() { qputenv("TZ", "UTC"); }
     void aDayWithoutSalesIsAllZeroes();
     void theDayIsTheUtcDay();
     void anUnpaidOrUnclosedSessionIsNoSale();
@@ -68,6 +96,8 @@ private slots:
     void onlyTheFiveBestItemsAreListed();
     void hoursWithSalesComeAscending();
     void theLastSevenDaysAreFilledUpWithZeroes();
+    void localDaysAreWalkedOverSumsOfUtcDays_data();
+    void localDaysAreWalkedOverSumsOfUtcDays();
     void everyFailureIsLogged();
 };
 
@@ -101,6 +131,7 @@ void tst_AnalyticsRepository::theDayIsTheUtcDay()
     QCOMPARE(f.analytics.topItemsToday().at(0).quantity, 2);
     QCOMPARE(f.analytics.revenueByHourToday().size(), 1);
     QCOMPARE(f.analytics.revenueByHourToday().at(0).hour, 23);
+    QCOMPARE(f.analytics.revenueByHourToday().at(0).amount, 1000.0);
 }
 
 void tst_AnalyticsRepository::anUnpaidOrUnclosedSessionIsNoSale()
@@ -190,7 +221,7 @@ void tst_AnalyticsRepository::theLastSevenDaysAreFilledUpWithZeroes()
 
     const QList<DayRevenue> days = f.analytics.revenueLastSevenDays();
 
-    // The tests run where local and UTC days are the same.
+    // This class runs where local and UTC days are the same.
     const QDate last = QDateTime::currentDateTimeUtc().date();
     QCOMPARE(days.size(), 7);
     for (int index = 0; index < 7; ++index) {
@@ -200,6 +231,42 @@ void tst_AnalyticsRepository::theLastSevenDaysAreFilledUpWithZeroes()
     QCOMPARE(days.at(1).amount, 0.0);
     QCOMPARE(days.at(5).amount, 111.0);
     QCOMPARE(days.at(6).amount, 0.0);
+}
+
+void tst_AnalyticsRepository::localDaysAreWalkedOverSumsOfUtcDays_data()
+{
+    QTest::addColumn<QString>("zone");
+    QTest::addColumn<QString>("localTime");
+    QTest::addColumn<QByteArray>("days");
+
+    QTest::newRow("same day") << "Asia/Tokyo"
+                              << "2026-03-05 12:00:00"
+                              << QByteArray("2026-03-04 0,2026-03-05 1000,");
+    // East of UTC the sale of the first hours stands under yesterday.
+    QTest::newRow("east after midnight")
+        << "Asia/Tokyo"
+        << "2026-03-05 00:30:00" << QByteArray("2026-03-04 1000,2026-03-05 0,");
+    // West of UTC the sale of the last hours stands under tomorrow, which is not listed.
+    QTest::newRow("west before midnight")
+        << "America/New_York"
+        << "2026-03-04 22:00:00" << QByteArray("2026-03-03 0,2026-03-04 0,");
+}
+
+void tst_AnalyticsRepository::localDaysAreWalkedOverSumsOfUtcDays()
+{
+    QFETCH(QString, zone);
+    QFETCH(QString, localTime);
+    QFETCH(QByteArray, days);
+    const QTemporaryDir folder;
+    ChildProcess child(QStringLiteral("sellAndListDays"),
+                       {folder.filePath(QStringLiteral("a.db"))});
+    child.setEnvironment(QStringLiteral("TZ"), zone);
+    child.atTime(localTime);
+
+    const ChildProcess::Result result = child.run();
+
+    QVERIFY2(result.exitCode == 0, result.errors.constData());
+    QCOMPARE(result.output, days);
 }
 
 void tst_AnalyticsRepository::everyFailureIsLogged()
