@@ -9,10 +9,13 @@ import zelvan.Theme 1.0
 Rectangle {
     id: root
 
+    // One entry a row of the sidebar; each page is built when it is chosen and dropped after.
+    readonly property var pages: [
+        orderPage, checkoutPage, kitchenPage, analyticsPage, taxReportsPage, managementPage, settingsPage
+    ]
+
     function loadPage(index: int): void {
-        // One entry a row of the sidebar; each page is built when it is chosen and dropped after.
-        const pages = [orderPage, checkoutPage, kitchenPage, analyticsPage, taxReportsPage, managementPage, settingsPage]
-        pageLoader.show(pages[index] ?? null)
+        pageLoader.show(root.pages[index])
     }
 
     color: Theme.background

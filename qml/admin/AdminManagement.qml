@@ -10,11 +10,13 @@ import zelvan.Theme 1.0
 Rectangle {
     id: root
 
+    // One entry a row of the sidebar.
+    readonly property var pages: [menuPage, tablePage, membersPage, userPage]
+
     function loadPage(index: int): void {
-        // Which of the two keeps the tables is decided at each load.
-        const tables = SettingService.tableLayoutMode === "floor_plan" ? floorPlanPage : tablePage
-        const pages = [menuPage, tables, membersPage, userPage]
-        pageLoader.show(pages[index] ?? null)
+        // Which of the two pages keeps the tables is decided at each load.
+        const floorPlan = index === 1 && SettingService.tableLayoutMode === "floor_plan"
+        pageLoader.show(floorPlan ? floorPlanPage : root.pages[index])
     }
 
     color: Theme.background

@@ -9,10 +9,13 @@ import zelvan.Theme 1.0
 Rectangle {
     id: root
 
+    // One entry a row of the sidebar.
+    readonly property var pages: [
+        storePage, tablePage, printerPage, taxPage, membershipPage, kitchenPage, regionalPage, databasePage
+    ]
+
     function loadPage(index: int): void {
-        const pages = [storePage, tablePage, printerPage, taxPage, membershipPage, kitchenPage, regionalPage,
-                       databasePage]
-        pageLoader.show(pages[index] ?? null)
+        pageLoader.show(root.pages[index])
     }
 
     color: Theme.background

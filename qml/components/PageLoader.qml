@@ -6,7 +6,7 @@ import QtQuick
 Loader {
     id: root
 
-    function show(page: Component): void {
+    function show(page: var): void {
         if (!page)
             return
         root.sourceComponent = null

@@ -75,6 +75,8 @@ Rectangle {
 
                     TableHeaderLabel {
                         Layout.fillWidth: true
+                        Layout.minimumWidth: 80
+                        Layout.preferredWidth: 200
                         text: qsTr("Item")
                     }
 
@@ -85,16 +87,25 @@ Rectangle {
                     }
 
                     TableHeaderLabel {
+                        Layout.fillWidth: true
+                        Layout.maximumWidth: 120
+                        Layout.minimumWidth: 50
                         Layout.preferredWidth: 120
                         text: qsTr("Portion")
                     }
 
                     TableHeaderLabel {
+                        Layout.fillWidth: true
+                        Layout.maximumWidth: 100
+                        Layout.minimumWidth: 60
                         Layout.preferredWidth: 100
                         text: qsTr("Available")
                     }
 
                     TableHeaderLabel {
+                        Layout.fillWidth: true
+                        Layout.maximumWidth: 100
+                        Layout.minimumWidth: 60
                         Layout.preferredWidth: 100
                         text: qsTr("Taxable")
                     }

@@ -134,6 +134,8 @@ Item {
                             visible: row.active
 
                             RowButton {
+                                leftPadding: 10
+                                rightPadding: 10
                                 fillColor: Theme.primary()
                                 text: qsTr("Edit")
 
@@ -141,6 +143,8 @@ Item {
                             }
 
                             RowButton {
+                                leftPadding: 10
+                                rightPadding: 10
                                 fillColor: Theme.surface
                                 text: qsTr("Password")
                                 textColor: Theme.text
@@ -153,6 +157,8 @@ Item {
                             }
 
                             RowButton {
+                                leftPadding: 10
+                                rightPadding: 10
                                 fillColor: "red"
                                 text: qsTr("Deactivate")
 

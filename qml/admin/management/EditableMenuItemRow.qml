@@ -86,7 +86,8 @@ Rectangle {
 
         PlainLabel {
             Layout.fillWidth: true
-            Layout.preferredWidth: 0
+            Layout.minimumWidth: 80
+            Layout.preferredWidth: 200
             elide: Text.ElideRight
             text: root.item
             visible: !root.isEditing
@@ -95,7 +96,8 @@ Rectangle {
         ThemedField {
             Layout.fillWidth: true
             Layout.preferredHeight: 36
-            Layout.preferredWidth: 0
+            Layout.minimumWidth: 80
+            Layout.preferredWidth: 200
             padding: 6
             placeholderText: qsTranslate("AdminMenuManagement", "Item Name")
             text: root.editedName
@@ -126,6 +128,9 @@ Rectangle {
         }
 
         PlainLabel {
+            Layout.fillWidth: true
+            Layout.maximumWidth: 120
+            Layout.minimumWidth: 50
             Layout.preferredWidth: 120
             elide: Text.ElideRight
             text: root.portion === "" ? "-" : root.portion
@@ -134,6 +139,9 @@ Rectangle {
 
         ThemedField {
             Layout.preferredHeight: 36
+            Layout.fillWidth: true
+            Layout.maximumWidth: 120
+            Layout.minimumWidth: 50
             Layout.preferredWidth: 120
             padding: 6
             placeholderText: qsTranslate("AdminMenuManagement", "Portion")
@@ -144,6 +152,9 @@ Rectangle {
         }
 
         CheckBox {
+            Layout.fillWidth: true
+            Layout.maximumWidth: 100
+            Layout.minimumWidth: 60
             Layout.preferredWidth: 100
             Accessible.name: qsTranslate("AdminMenuManagement", "Available")
             checked: root.isEditing ? root.editedAvailable : root.available
@@ -153,6 +164,9 @@ Rectangle {
         }
 
         CheckBox {
+            Layout.fillWidth: true
+            Layout.maximumWidth: 100
+            Layout.minimumWidth: 60
             Layout.preferredWidth: 100
             Accessible.name: qsTranslate("AdminMenuManagement", "Taxable")
             checked: root.isEditing ? root.editedTaxable : root.taxable

@@ -36,12 +36,16 @@ ColumnLayout {
             id: nameField
 
             Layout.fillWidth: true
+            Layout.minimumWidth: 80
             placeholderText: qsTranslate("AdminMenuManagement", "Item name")
         }
 
         ThemedField {
             id: priceField
 
+            Layout.fillWidth: true
+            Layout.maximumWidth: 200
+            Layout.minimumWidth: 80
             Layout.preferredWidth: 200
             inputMethodHints: Qt.ImhFormattedNumbersOnly
             placeholderText: qsTranslate("AdminMenuManagement", "Price")
@@ -50,6 +54,9 @@ ColumnLayout {
         ThemedField {
             id: portionField
 
+            Layout.fillWidth: true
+            Layout.maximumWidth: 150
+            Layout.minimumWidth: 80
             Layout.preferredWidth: 150
             placeholderText: qsTranslate("AdminMenuManagement", "Portion (optional)")
         }
