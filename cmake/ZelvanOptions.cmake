@@ -21,12 +21,17 @@ if(NOT MSVC)
     endif()
 endif()
 
-# zelvan_layer(NAME SOURCES ... LINKS ...): one layer as a static library with its precompiled header.
+# zelvan_layer(NAME [OWN_HEADER] SOURCES ... LINKS ...): one layer as a static library. Layers share the
+# precompiled header of zelvan_core; one that uses more modules of Qt needs its own.
 function(zelvan_layer name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+    cmake_parse_arguments(arg "OWN_HEADER" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
     qt_add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC ${arg_LINKS} zelvan_options PRIVATE ${arg_PRIVATE_LINKS})
-    target_precompile_headers(${name} PRIVATE
-        <optional> <QAbstractListModel> <QDateTime> <QList> <QMap> <QObject> <QSqlDatabase>
-        <QSqlError> <QSqlQuery> <QString> <QVariant>)
+    if(arg_OWN_HEADER)
+        target_precompile_headers(${name} PRIVATE
+            <optional> <QAbstractListModel> <QDateTime> <QList> <QMap> <QObject> <QSqlDatabase>
+            <QSqlError> <QSqlQuery> <QString> <QVariant>)
+    else()
+        target_precompile_headers(${name} REUSE_FROM zelvan_core)
+    endif()
 endfunction()
