@@ -127,16 +127,7 @@ bool DatabaseService::backupDatabase()
 
 bool DatabaseService::restoreDatabase(const QString &dbFilePath)
 {
-    if (!QFile::exists(dbFilePath)) {
-        qCWarning(lcDatabase) << "Database file does not exist";
-        return false;
-    }
-    if (!m_databases->testConnection(dbFilePath)) {
-        qCWarning(lcDatabase) << "Unable to open database file";
-        return false;
-    }
-    if (!m_databases->isZelvanDatabase(dbFilePath)) {
-        qCWarning(lcDatabase) << "Database is not a Zelvan Database";
+    if (!isRestorable(dbFilePath)) {
         return false;
     }
     QSettings().setValue(SettingsKeys::pendingRestore, dbFilePath);
