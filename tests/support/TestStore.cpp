@@ -101,3 +101,40 @@ int TestStore::sessionOf(int orderId) const
         .value(QStringLiteral("SELECT order_session_id FROM orders WHERE id = %1").arg(orderId))
         .toInt();
 }
+
+qint64 TestStore::number(const QString &sql) const
+{
+    return database.value(sql).toLongLong();
+}
+
+QString TestStore::text(const QString &sql) const
+{
+    return database.value(sql).toString();
+}
+
+QString TestStore::tableStatus(int tableId) const
+{
+    return text(QStringLiteral("SELECT status FROM tables WHERE id = %1").arg(tableId));
+}
+
+int TestStore::addReservation(int tableId, const QString &when, int minutes,
+                              const QString &status) const
+{
+    return database.insert(
+        QStringLiteral("INSERT INTO reservations (customer_name, customer_phone, pax, table_id, "
+                       "reservation_datetime, duration_minutes, status, notes) "
+                       "VALUES ('Ann', '1', 2, %1, %2, %3, %4, '')")
+            .arg(QString::number(tableId), quoted(when), QString::number(minutes), quoted(status)));
+}
+
+QString TestStore::reservationStatus(int reservationId) const
+{
+    return text(QStringLiteral("SELECT status FROM reservations WHERE id = %1").arg(reservationId));
+}
+
+void TestStore::refuse(const QString &statement) const
+{
+    database.run(QStringLiteral("CREATE TRIGGER \"refuse %1\" BEFORE %1 "
+                                "BEGIN SELECT RAISE(ABORT, 'refused'); END")
+                     .arg(statement));
+}

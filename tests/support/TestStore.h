@@ -27,7 +27,7 @@ public:
         int cents = 1000;
         bool available = true;
         bool taxable = true;
-        QString portion;
+        QString portion = {};
     };
 
     /// Each answers the new row's id.
@@ -45,9 +45,23 @@ public:
     /// One line of an order as the screens send it.
     [[nodiscard]] static QVariantMap line(int menuItemId, int quantity = 1,
                                           const QString &notes = {});
-    [[nodiscard]] int orderAtTable(int tableId, const QVariantList &lines);
-    [[nodiscard]] int orderTakeaway(const QVariantList &lines);
+    int orderAtTable(int tableId, const QVariantList &lines);
+    int orderTakeaway(const QVariantList &lines);
     [[nodiscard]] int sessionOf(int orderId) const;
+
+    /// The first column of the first row.
+    [[nodiscard]] qint64 number(const QString &sql) const;
+    [[nodiscard]] QString text(const QString &sql) const;
+    [[nodiscard]] QString tableStatus(int tableId) const;
+
+    /// A reservation that is written without any check; `when` is local, "yyyy-MM-dd HH:mm:ss".
+    int addReservation(int tableId, const QString &when, int minutes,
+                       const QString &status = QStringLiteral("booked")) const;
+    [[nodiscard]] QString reservationStatus(int reservationId) const;
+
+    /// From now on SQLite refuses this, as in "INSERT ON orders" or "UPDATE ON orders WHEN
+    /// NEW.status = 'served'".
+    void refuse(const QString &statement) const;
 
     TestDatabase database;
     DatabaseManager manager;

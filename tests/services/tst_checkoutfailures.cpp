@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "services/CheckoutService.h"
+#include "support/DatabaseDump.h"
+#include "support/LogCapture.h"
+#include "support/TestStore.h"
+#include "support/ZelvanTest.h"
+
+#include <QSignalSpy>
+
+#include <memory>
+
+namespace {
+const QString phone = QStringLiteral("0123456789");
+const QString rollingBack = QStringLiteral("warning checkout: Rolling back transaction");
+} // namespace
+
+/// Each step of a payment failing by itself: a false answer, its lines in the log, and not one row
+/// changed.
+class tst_CheckoutFailures : public ZelvanTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_store.reset(); }
+
+    void aFailedStepUndoesThePayment_data();
+    void aFailedStepUndoesThePayment();
+    void aPaymentInsideAnotherTransactionIsRefused();
+    void anUnknownSessionIsRefused();
+    void aRevokedMemberFailsThePaymentUntilThePhoneIsEmptied();
+    void anOverlappingReservationFailsThePayment();
+    void aFailedCommitIsNotRolledBackHere();
+    void aFailedUpdateOfTheTotalsIsNotLookedAt();
+
+private:
+    std::unique_ptr<TestStore> m_store;
+    int m_table = 0;
+    int m_session = 0;
+};
+
+void tst_CheckoutFailures::init()
+{
+    ZelvanTest::init();
+    m_store = std::make_unique<TestStore>();
+    m_store->setMembershipEnabled(true);
+    m_store->setTax(600);
+    m_store->setKitchen("kds", "manual");
+    m_store->addMember(phone, 150);
+    m_table = m_store->addTable("T1");
+    m_store->addReservation(m_table, "2026-11-20 18:00:00", 60, "seated");
+    const int soup = m_store->addDish({});
+    m_session = m_store->sessionOf(m_store->orderAtTable(m_table, {TestStore::line(soup, 2)}));
+    m_store->orderAtTable(m_table, {TestStore::line(soup)});
+}
+
+void tst_CheckoutFailures::aFailedStepUndoesThePayment_data()
+{
+    QTest::addColumn<QString>("sql");
+    QTest::addColumn<QStringList>("lines");
+    const auto row = [](const char *name, const char *sql, const QStringList &lines) {
+        QTest::newRow(name) << QString::fromLatin1(sql) << lines;
+    };
+    const auto refusal = [&row](const char *name, const char *statement, const QStringList &lines) {
+        const QString sql = QStringLiteral("CREATE TRIGGER refuse BEFORE %1 "
+                                           "BEGIN SELECT RAISE(ABORT, 'refused'); END")
+                                .arg(QString::fromLatin1(statement));
+        row(name, sql.toLatin1().constData(), lines);
+    };
+
+    row("the session vanishes under the totals",
+        "CREATE TRIGGER vanish AFTER UPDATE ON order_sessions "
+        "BEGIN DELETE FROM order_sessions WHERE id = NEW.id; END",
+        {"warning checkout: Session not found: 1"});
+    row("no membership settings", "DELETE FROM membership_settings",
+        {"warning checkout: Failed applying membership"});
+    refusal("an order", "UPDATE ON orders WHEN OLD.id = 2",
+            {"warning database: update failed: <error>",
+             "warning checkout: Failed marking orders served"});
+    refusal("the lines", "UPDATE ON order_items WHEN OLD.order_id = 2",
+            {"warning database: markItemsByOrderId failed: <error>",
+             "warning checkout: Failed marking orders served"});
+    refusal("the session", "UPDATE ON order_sessions WHEN NEW.receipt_number IS NOT NULL",
+            {"warning database: Failed to update order session: <error>",
+             "warning checkout: Failed updating session"});
+    refusal("the paid mark", "UPDATE ON order_sessions WHEN NEW.status = 'paid'",
+            {"warning database: Failed to mark order as closed: <error>",
+             "warning checkout: Failed marking session paid"});
+    refusal("the reservation", "UPDATE ON reservations",
+            {"warning database: Failed to update reservation: <error>",
+             "warning checkout: Failed freeing table"});
+    row("no restaurant", "DELETE FROM restaurant",
+        {"warning checkout: Failed creating receipt snapshot"});
+    refusal("the snapshot", "INSERT ON receipt_snapshot",
+            {"warning database: Failed to create receipt snapshot: <error>",
+             "warning checkout: Failed creating receipt snapshot"});
+}
+
+void tst_CheckoutFailures::aFailedStepUndoesThePayment()
+{
+    QFETCH(QString, sql);
+    QFETCH(QStringList, lines);
+    m_store->database.run(sql);
+    const QStringList before = dumpOf(m_store->database);
+    const LogCapture log;
+
+    QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
+
+    QCOMPARE(LogCapture::lines(), lines + QStringList{rollingBack});
+    QCOMPARE(dumpOf(m_store->database), before);
+    // The next payment can begin.
+    QVERIFY(DatabaseManager::beginTransaction());
+    QVERIFY(DatabaseManager::rollbackTransaction());
+}
+
+void tst_CheckoutFailures::aPaymentInsideAnotherTransactionIsRefused()
+{
+    const QStringList before = dumpOf(m_store->database);
+    QVERIFY(DatabaseManager::beginTransaction());
+    const LogCapture log;
+
+    QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
+
+    QCOMPARE(LogCapture::lines().size(), 2);
+    QVERIFY(LogCapture::lines().at(0).startsWith("warning database: Failed to begin transaction:"));
+    QCOMPARE(LogCapture::lines().at(1),
+             QStringLiteral("warning checkout: Failed to begin transaction"));
+    // The other transaction is not rolled back on its owner's behalf.
+    QVERIFY(DatabaseManager::commitTransaction());
+    QCOMPARE(dumpOf(m_store->database), before);
+}
+
+void tst_CheckoutFailures::anUnknownSessionIsRefused()
+{
+    const QStringList before = dumpOf(m_store->database);
+    const LogCapture log;
+
+    QVERIFY(!m_store->services.checkout.completeCheckout(99, phone, 100));
+
+    QCOMPARE(LogCapture::lines(),
+             QStringList({"warning checkout: Failed to recalculate totals", rollingBack}));
+    QCOMPARE(dumpOf(m_store->database), before);
+}
+
+void tst_CheckoutFailures::aRevokedMemberFailsThePaymentUntilThePhoneIsEmptied()
+{
+    m_store->database.run("UPDATE memberships SET status = 'revoked'");
+    const QStringList before = dumpOf(m_store->database);
+    {
+        const LogCapture log;
+
+        QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 0));
+
+        QCOMPARE(LogCapture::lines(),
+                 QStringList({"warning checkout: Failed applying membership", rollingBack}));
+        QCOMPARE(dumpOf(m_store->database), before);
+    }
+    QVERIFY(m_store->services.checkout.completeCheckout(m_session, {}, 0));
+}
+
+void tst_CheckoutFailures::anOverlappingReservationFailsThePayment()
+{
+    m_store->addReservation(m_table, "2026-11-20 18:30:00", 60);
+    const QStringList before = dumpOf(m_store->database);
+    QSignalSpy status(&m_store->services.tables, &TableService::tableStatusChanged);
+    const LogCapture log;
+
+    QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
+
+    QCOMPARE(LogCapture::lines(),
+             QStringList({"warning checkout: Failed freeing table", rollingBack}));
+    QCOMPARE(dumpOf(m_store->database), before);
+    // The signal went out before anything was decided.
+    QCOMPARE(status, QList<QVariantList>({{m_table, "available"}}));
+}
+
+void tst_CheckoutFailures::aFailedCommitIsNotRolledBackHere()
+{
+    // A broken reference that SQLite looks at no sooner than at the commit.
+    m_store->database.run("CREATE TABLE late (id INTEGER REFERENCES tables(id) "
+                          "DEFERRABLE INITIALLY DEFERRED)");
+    m_store->database.run("CREATE TRIGGER breaks AFTER INSERT ON receipt_snapshot "
+                          "BEGIN INSERT INTO late (id) VALUES (99); END");
+    const QStringList before = dumpOf(m_store->database);
+    const LogCapture log;
+
+    QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
+
+    QCOMPARE(LogCapture::lines().size(), 2);
+    QVERIFY(
+        LogCapture::lines().at(0).startsWith("warning database: Failed to commit transaction:"));
+    QCOMPARE(LogCapture::lines().at(1), QStringLiteral("warning checkout: Commit failed"));
+    // Still begun, so it can still be rolled back.
+    QVERIFY(DatabaseManager::rollbackTransaction());
+    QCOMPARE(dumpOf(m_store->database), before);
+}
+
+void tst_CheckoutFailures::aFailedUpdateOfTheTotalsIsNotLookedAt()
+{
+    m_store->refuse("UPDATE ON order_sessions");
+    const LogCapture log;
+
+    QVERIFY(m_store->services.checkout.recalculateTotals(m_session));
+
+    QCOMPARE(LogCapture::lines(),
+             QStringList{"warning database: Failed to update order session: <error>"});
+}
+
+ZELVAN_TEST(tst_CheckoutFailures)
+#include "tst_checkoutfailures.moc"
