@@ -7,7 +7,7 @@
 namespace {
 constexpr int first = 4000;
 constexpr int startingPoints = 4000;
-constexpr int end = 10000;
+constexpr int last = 9999;
 } // namespace
 
 int DisplayNumber::after(int highestOfDay)
@@ -15,6 +15,5 @@ int DisplayNumber::after(int highestOfDay)
     if (highestOfDay == 0) {
         return first + QRandomGenerator::global()->bounded(startingPoints);
     }
-    const int next = highestOfDay + 1;
-    return next < end ? next : first;
+    return highestOfDay < last ? highestOfDay + 1 : first;
 }
