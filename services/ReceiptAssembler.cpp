@@ -60,12 +60,15 @@ ReceiptData ReceiptAssembler::header(const OrderSession &session, const ReceiptS
 std::optional<QString> ReceiptAssembler::saleTime(const ReceiptSnapshot &snapshot,
                                                   const RegionalSettingsRepository &regional)
 {
-    QDateTime paid = QDateTime::fromString(snapshot.created_at.value_or(QString()),
-                                           QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-    if (!paid.isValid()) {
+    // Date and time are read apart: an hour that the local clock leaves out in spring is no local
+    // moment, but a good one in UTC.
+    const QStringList parts = snapshot.created_at.value_or(QString()).split(QLatin1Char(' '));
+    const QDate date = QDate::fromString(parts.value(0), QStringLiteral("yyyy-MM-dd"));
+    const QTime time = QTime::fromString(parts.value(1), QStringLiteral("HH:mm:ss"));
+    if (parts.size() != 2 || !date.isValid() || !time.isValid()) {
         return std::nullopt;
     }
-    paid.setTimeZone(QTimeZone::utc());
+    const QDateTime paid(date, time, QTimeZone::utc());
     const QDateTime local = paid.toLocalTime();
     return QStringLiteral("%1 %2").arg(
         PrintLayout::shortDate(PrintLayout::localeFor(regional), local),
