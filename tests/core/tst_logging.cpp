@@ -304,7 +304,5 @@ void tst_Logging::withoutAFileTheErrorStreamStillTells()
              QByteArray("2026-02-28 07:08:09 [INFO] [default] Logging initialized.\n"));
 }
 
-Q_DECLARE_METATYPE(const QLoggingCategory *)
-
 ZELVAN_TEST(tst_Logging)
 #include "tst_logging.moc"
