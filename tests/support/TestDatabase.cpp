@@ -34,9 +34,7 @@ TestDatabase::TestDatabase(Content content)
         qFatal("the test database cannot be made");
     }
     if (content == Content::Seeded) {
-        for (const char *statement : seedStatements) {
-            run(QString::fromLatin1(statement));
-        }
+        seed();
     }
 }
 
@@ -79,4 +77,24 @@ int TestDatabase::insert(const QString &sql) const
         refuse(sql, query.lastError());
     }
     return query.lastInsertId().toInt();
+}
+
+void TestDatabase::reset() const
+{
+    run(QStringLiteral("PRAGMA foreign_keys = OFF"));
+    const QStringList tables = handle().tables();
+    for (const QString &table : tables) {
+        if (table != QLatin1String("applied_migrations")) {
+            run(QStringLiteral("DELETE FROM ") + table);
+        }
+    }
+    run(QStringLiteral("PRAGMA foreign_keys = ON"));
+    seed();
+}
+
+void TestDatabase::seed() const
+{
+    for (const char *statement : seedStatements) {
+        run(QString::fromLatin1(statement));
+    }
 }

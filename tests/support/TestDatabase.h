@@ -32,9 +32,13 @@ public:
     void run(const QString &sql) const;
     /// The first column of the first row, invalid when there is none.
     [[nodiscard]] QVariant value(const QString &sql) const;
+    /// No data and seeded settings again, ids starting afresh.
+    void reset() const;
     /// The last row id given by an insert.
     [[nodiscard]] int insert(const QString &sql) const;
 
 private:
+    void seed() const;
+
     QTemporaryDir m_folder;
 };
