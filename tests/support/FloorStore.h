@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#pragma once
+
+#include "repositories/CanvasItemRepository.h"
+#include "repositories/FloorRepository.h"
+#include "repositories/ReservationRepository.h"
+#include "repositories/TableRepository.h"
+#include "services/FloorPlanService.h"
+#include "services/TableService.h"
+
+#include <QSqlDatabase>
+
+/// The repositories behind the floor plan on one handle and the services above them.
+struct FloorStore
+{
+    explicit FloorStore(const QSqlDatabase &database)
+        : floors(database)
+        , items(database)
+        , tables(database)
+        , reservations(database)
+        , tableService(&tables)
+        , service(&floors, &items, &tables, &reservations, &tableService)
+    {}
+
+    FloorRepository floors;
+    CanvasItemRepository items;
+    TableRepository tables;
+    ReservationRepository reservations;
+    TableService tableService;
+    FloorPlanService service;
+};
