@@ -31,10 +31,11 @@ void removeCompanions(const QString &dbPath)
     QFile::remove(dbPath + QStringLiteral("-shm"));
 }
 
-bool isRestorable(const QString &path)
+/// Only the words for a missing file tell the staging from the start that applies it.
+bool isRestorable(const QString &path, const char *missingText)
 {
     if (!QFile::exists(path)) {
-        qCWarning(lcDatabase) << "Database restore file does not exist";
+        qCWarning(lcDatabase) << missingText;
         return false;
     }
     if (!DatabaseManager::testConnection(path)) {
@@ -84,7 +85,7 @@ bool DatabaseService::applyPendingRestore()
     if (path.isEmpty()) {
         return false;
     }
-    if (!isRestorable(staged)) {
+    if (!isRestorable(staged, "Database restore file does not exist")) {
         settings.remove(SettingsKeys::pendingRestore);
         return false;
     }
@@ -127,7 +128,7 @@ bool DatabaseService::backupDatabase()
 
 bool DatabaseService::restoreDatabase(const QString &dbFilePath)
 {
-    if (!isRestorable(dbFilePath)) {
+    if (!isRestorable(dbFilePath, "Database file does not exist")) {
         return false;
     }
     QSettings().setValue(SettingsKeys::pendingRestore, dbFilePath);
