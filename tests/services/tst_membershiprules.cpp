@@ -100,6 +100,8 @@ void tst_MembershipRules::previewAndPaymentFollowTheSameRule_data()
     row("a redemption worth more than the bill pays it all", seeded, 500, {300, 300, 500},
         {300, 300, 0, 0});
     row("a redemption worth just the bill", seeded, 300, {300, 300, 300}, {300, 300, 0, 0});
+    // No cap: the points are not reckoned back from the bill, which would make them 4.
+    row("a cut worth that is just the bill", {true, 1, 1000, 7, 10}, 100, {7, 7, 5}, {5, 7, 0, 0});
     row("one cent below the bill", seeded, 299, {300, 300, 299}, {299, 299, 0, 1});
     row("points of the cap are cut", {true, 1, 1000, 10, 3}, 10, {1, 1, 10}, {3, 1, 0, 0});
     row("a cap down to no points leaves the discount", {true, 1, 1000, 1, 1000}, 1, {1, 1, 1},

@@ -39,6 +39,7 @@ private slots:
     void aJoiningOrderSeatsTheReservationToo();
     void aTakeawaySeatsNobody();
     void anOverlapKeepsTheReservationBooked();
+    void tableThenReservationThenOrderAreTold();
 
 private:
     std::unique_ptr<TestStore> m_store;
@@ -279,6 +280,26 @@ void tst_OrderService::anOverlapKeepsTheReservationBooked()
     QVERIFY(m_store->orderAtTable(m_table, {TestStore::line(m_soup)}) > 0);
 
     QCOMPARE(m_store->reservationStatus(first), QStringLiteral("booked"));
+}
+
+void tst_OrderService::tableThenReservationThenOrderAreTold()
+{
+    m_store->addReservation(m_table, "2030-05-01 18:00:00", 60);
+    QStringList told;
+    const auto note = [&told](const char *what) {
+        return [&told, what] { told.append(QString::fromLatin1(what)); };
+    };
+    connect(&m_store->services.tables, &TableService::tableStatusChanged, this, note("table"));
+    connect(&m_store->services.reservations, &ReservationService::reservationChanged, this,
+            note("reservation"));
+    connect(&m_store->services.kitchenOrders, &KitchenOrderService::ordersChanged, this,
+            note("board"));
+    connect(&m_store->services.orders, &OrderService::orderCreated, this, note("order"));
+
+    m_store->orderAtTable(m_table, {TestStore::line(m_soup)});
+
+    // The board was connected to the order first.
+    QCOMPARE(told, QStringList({"table", "reservation", "board", "order"}));
 }
 
 ZELVAN_TEST(tst_OrderService)

@@ -61,6 +61,7 @@ private slots:
     void aTakeawayMayMoveToATable();
     void aPaidSessionMayBeUpdated();
     void withACommitTheUpdateIsPrintedAndTold();
+    void withACommitTheModeStillDecidesOnTheTicket();
     void aFailedPrintAfterACommitIsLoggedWithoutFullStop();
 
 private:
@@ -337,6 +338,19 @@ void tst_OrderUpdate::withACommitTheUpdateIsPrintedAndTold()
     QCOMPARE(board.count(), 1);
     QCOMPARE(m_store->spooler.documentsFor("Kitchen").size(), 1);
     QVERIFY(m_store->spooler.documentsFor("Kitchen").at(0).contains("2x"));
+}
+
+void tst_OrderUpdate::withACommitTheModeStillDecidesOnTheTicket()
+{
+    const DefaultConnection registered;
+    m_store->addPrinter("Kitchen", "kitchen");
+    m_store->setKitchen("none", "order_created");
+
+    QCOMPARE(m_store->services.orders.updateOrder(m_order, dineIn, {TestStore::line(m_soup)},
+                                                  {{tableIdKey, m_table}}),
+             m_order);
+
+    QCOMPARE(m_store->spooler.calls(), QStringList());
 }
 
 void tst_OrderUpdate::aFailedPrintAfterACommitIsLoggedWithoutFullStop()
