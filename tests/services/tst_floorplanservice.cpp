@@ -472,7 +472,9 @@ void tst_FloorPlanService::aStatusReachesTheCanvasAtOnce()
     m_store->tableService.setTableStatus(99, "occupied");
 
     QCOMPARE(ModelRows::column(*service().canvasModel(), "status"), QVariantList({"occupied"}));
-    QCOMPARE(updated, QList<QVariantList>({{table, "occupied"}, {99, "occupied"}}));
+    QCOMPARE(updated.count(), 2);
+    QCOMPARE(updated.at(0), QVariantList({table, "occupied"}));
+    QCOMPARE(updated.at(1), QVariantList({99, "occupied"}));
 }
 
 void tst_FloorPlanService::aStatusWithoutACanvasIsLogged()

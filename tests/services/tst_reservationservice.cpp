@@ -254,7 +254,8 @@ void tst_ReservationService::anUpdateIgnoresItsOwnRowAndKeepsTheTablesStatus()
 
     QCOMPARE(m_service->getActiveReservationByTable(1), seated);
     QCOMPARE(tableStatus(), QStringLiteral("occupied"));
-    QCOMPARE(changed, QList<QVariantList>({{1}}));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.constFirst(), QVariantList({1}));
 }
 
 void tst_ReservationService::anUpdateOntoAnotherBookingIsRefusedWhateverItsStatus()
@@ -296,7 +297,8 @@ void tst_ReservationService::aCancellationFreesTheTableWhateverItIs()
     QCOMPARE(reservationStatus(1), QStringLiteral("cancelled"));
     QCOMPARE(reservationStatus(2), QStringLiteral("booked"));
     QCOMPARE(tableStatus(), QStringLiteral("available"));
-    QCOMPARE(changed, QList<QVariantList>({{1}}));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.constFirst(), QVariantList({1}));
 }
 
 void tst_ReservationService::cancellingAnUnknownReservationIsRefused_data()
