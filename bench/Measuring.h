@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#pragma once
+
+#include "bench/Operations.h"
+#include "bench/StatementRecorder.h"
+
+#include <QList>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+/// The times of one piece of work, round by round, in seconds.
+class Timing final
+{
+public:
+    void measure(const std::function<void()> &work);
+
+    /// What passes on the clock on the wall.
+    [[nodiscard]] double median() const;
+    /// What the processor works: steadier on a busy machine, but without the waiting for the disk.
+    [[nodiscard]] double medianOfProcessor() const;
+
+private:
+    QList<double> m_elapsed;
+    QList<double> m_processor;
+};
+
+struct Comparison
+{
+    Timing operation;
+    /// The same statements through the plain C interface, or the library call alone.
+    Timing floor;
+    /// Of one round.
+    qsizetype statements = 0;
+};
+
+/// What the operation asks of SQLite, round by round, on a copy of the file.
+[[nodiscard]] std::optional<QList<QList<RecordedStatement>>>
+recordStatements(const Operation &operation, const QString &history, int rounds);
+
+/// Runs the operation on one copy of the file and its statements on another, in turn, the one and
+/// the other first. Nothing where the operation failed, or where the two files are not alike in the
+/// end.
+[[nodiscard]] std::optional<Comparison> compare(const Operation &operation, const QString &history,
+                                                int rounds);
