@@ -5,61 +5,26 @@
 #include "repositories/Statement.h"
 
 namespace {
-/// Where the columns of a "SELECT *" stand, looked up once a result.
-struct SessionColumns
-{
-    explicit SessionColumns(const Statement &statement)
-        : id(statement.column("id"))
-        , displayNumber(statement.column("display_number"))
-        , receiptNumber(statement.column("receipt_number"))
-        , tableId(statement.column("table_id"))
-        , orderType(statement.column("order_type"))
-        , status(statement.column("status"))
-        , pointsEarned(statement.column("points_earned"))
-        , pointsRedeemed(statement.column("points_redeemed"))
-        , subtotal(statement.column("subtotal"))
-        , tax(statement.column("tax"))
-        , discount(statement.column("discount"))
-        , total(statement.column("total"))
-        , openedAt(statement.column("opened_at"))
-        , closedAt(statement.column("closed_at"))
-    {}
-
-    int id, displayNumber, receiptNumber, tableId, orderType, status, pointsEarned, pointsRedeemed;
-    int subtotal, tax, discount, total, openedAt, closedAt;
-};
-
-OrderSession readSession(const Statement &row, const SessionColumns &at)
+/// By position: the columns of a "SELECT *" stand in the order in which the table was created, and
+/// this row is read too often to look them up by name.
+OrderSession readSession(const Statement &row)
 {
     OrderSession session;
-    session.id = row.integer(at.id);
-    session.display_number = row.integer(at.displayNumber);
-    session.receipt_number = row.optionalText(at.receiptNumber);
-    session.table_id = row.optionalInteger(at.tableId);
-    session.order_type = row.text(at.orderType);
-    session.status = row.text(at.status);
-    session.points_earned = row.integer(at.pointsEarned);
-    session.points_redeemed = row.integer(at.pointsRedeemed);
-    session.subtotal = row.real(at.subtotal);
-    session.tax = row.real(at.tax);
-    session.discount = row.real(at.discount);
-    session.total = row.real(at.total);
-    session.opened_at = row.optionalText(at.openedAt);
-    session.closed_at = row.optionalText(at.closedAt);
+    session.id = row.integer(0);
+    session.display_number = row.integer(1);
+    session.receipt_number = row.optionalText(2);
+    session.table_id = row.optionalInteger(3);
+    session.order_type = row.text(4);
+    session.status = row.text(5);
+    session.points_earned = row.integer(6);
+    session.points_redeemed = row.integer(7);
+    session.subtotal = row.real(8);
+    session.tax = row.real(9);
+    session.discount = row.real(10);
+    session.total = row.real(11);
+    session.opened_at = row.optionalText(12);
+    session.closed_at = row.optionalText(13);
     return session;
-}
-
-QList<OrderSession> readSessions(Statement &statement)
-{
-    if (!statement.run()) {
-        return {};
-    }
-    const SessionColumns at(statement);
-    QList<OrderSession> sessions;
-    while (statement.next()) {
-        sessions.append(readSession(statement, at));
-    }
-    return sessions;
 }
 
 std::optional<OrderSession> readOneSession(Statement &statement)
@@ -67,7 +32,7 @@ std::optional<OrderSession> readOneSession(Statement &statement)
     if (!statement.run() || !statement.next()) {
         return std::nullopt;
     }
-    return readSession(statement, SessionColumns(statement));
+    return readSession(statement);
 }
 
 /// What creation and update write alike.
@@ -191,12 +156,12 @@ QList<OrderSession> OrderSessionRepository::getRecentPaidSessions(int limit) con
     Statement statement(m_database, getRecentPaidSessionsSql,
                         {"Failed to get recent paid sessions:"});
     statement.bind(":limit", limit);
-    return readSessions(statement);
+    return statement.rows(readSession);
 }
 
 QList<OrderSession> OrderSessionRepository::getOpenSessions() const
 {
     Statement statement(m_database, "SELECT * FROM order_sessions WHERE status = 'open'",
                         {"Failed to get active order sessions:"});
-    return readSessions(statement);
+    return statement.rows(readSession);
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/Statement.h"
 
+#include "repositories/PreparedStatements.h"
+
 #include <QDebug>
 #include <QSqlError>
 #include <QSqlRecord>
@@ -13,12 +15,29 @@ QString notNull(const QString &value)
 }
 } // namespace
 
+Statement::Statement(const QSqlDatabase &database, const char *sql, const FailureReport &report)
+    : m_sql(QByteArray::fromRawData(sql, qsizetype(qstrlen(sql))))
+    , m_waiting(PreparedStatements::of(database))
+    , m_query(waitingOr(database))
+    , m_report(report)
+{
+    if (!m_prepared) {
+        prepare(QString::fromUtf8(m_sql));
+    }
+}
+
 Statement::Statement(const QSqlDatabase &database, const QString &sql, const FailureReport &report)
     : m_query(database)
     , m_report(report)
 {
-    m_query.setForwardOnly(true);
-    m_prepared = m_query.prepare(sql);
+    prepare(sql);
+}
+
+Statement::~Statement()
+{
+    if (m_waiting != nullptr && m_prepared) {
+        m_waiting->keep(m_sql, std::move(m_query));
+    }
 }
 
 void Statement::bind(const char *placeholder, int value)
@@ -57,6 +76,7 @@ bool Statement::run()
         return true;
     }
     report();
+    m_waiting = nullptr;
     return false;
 }
 
@@ -75,6 +95,23 @@ std::optional<int> Statement::optionalInteger(int column) const
 {
     const QVariant value = m_query.value(column);
     return value.isNull() ? std::nullopt : std::optional(value.toInt());
+}
+
+QSqlQuery Statement::waitingOr(const QSqlDatabase &database)
+{
+    if (m_waiting != nullptr) {
+        if (std::optional<QSqlQuery> query = m_waiting->take(m_sql)) {
+            m_prepared = true;
+            return std::move(*query);
+        }
+    }
+    return QSqlQuery(database);
+}
+
+void Statement::prepare(const QString &sql)
+{
+    m_query.setForwardOnly(true);
+    m_prepared = m_query.prepare(sql);
 }
 
 void Statement::report() const

@@ -14,6 +14,8 @@
 #include <tuple>
 #include <type_traits>
 
+class PreparedStatements;
+
 /// How a failed statement is told in the log: the text, then the error.
 struct FailureReport
 {
@@ -41,7 +43,12 @@ struct FailureReport
 class Statement final
 {
 public:
+    /// A fixed text: stays prepared for the next statement of the same text.
+    Statement(const QSqlDatabase &database, const char *sql, const FailureReport &report);
+    /// A text made for this one run.
     Statement(const QSqlDatabase &database, const QString &sql, const FailureReport &report);
+    ~Statement();
+    Q_DISABLE_COPY_MOVE(Statement)
 
     void bind(const char *placeholder, int value);
     void bind(const char *placeholder, bool value);
@@ -94,9 +101,16 @@ public:
     [[nodiscard]] int insertedId() const { return m_query.lastInsertId().toInt(); }
 
 private:
+    /// A statement prepared before, which `m_prepared` then says, or a new one.
+    [[nodiscard]] QSqlQuery waitingOr(const QSqlDatabase &database);
+    void prepare(const QString &sql);
     void report() const;
 
+    /// Not a copy: the text outlives the statement.
+    QByteArray m_sql;
+    /// nullptr where the statement is not kept.
+    PreparedStatements *m_waiting = nullptr;
+    bool m_prepared = false;
     QSqlQuery m_query;
     FailureReport m_report;
-    bool m_prepared = false;
 };
