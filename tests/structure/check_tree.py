@@ -178,7 +178,8 @@ def registered_tests(build):
     names = {test["name"].lower() for test in json.loads(listed)["tests"]}
     for path in tree():
         is_test = path.parts[0] == "tests" and re.fullmatch(r"tst_\w+\.(cpp|qml)", path.name)
-        if is_test and path.stem.lower() not in names:
+        stem = path.stem.lower()
+        if is_test and not names & {stem, f"qml_{stem}"}:
             yield f"{path}: is no test of ctest"
 
 
