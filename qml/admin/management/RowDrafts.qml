@@ -7,20 +7,20 @@ import QtQuick
 QtObject {
     id: root
 
-    property var drafts: ({})
+    property var drafts: new Map()
 
     function put(id: int, draft: var): void {
-        root.drafts[id] = draft
+        root.drafts.set(id, draft)
     }
 
     // The draft of that record, or undefined; asked for once.
     function take(id: int): var {
-        const draft = root.drafts[id]
-        delete root.drafts[id]
+        const draft = root.drafts.get(id)
+        root.drafts.delete(id)
         return draft
     }
 
     function clear(): void {
-        root.drafts = {}
+        root.drafts.clear()
     }
 }

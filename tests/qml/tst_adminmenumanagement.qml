@@ -1,0 +1,349 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import Zelvan.Services 1.0
+import zelvan.Theme 1.0
+import ZelvanTest 1.0
+
+ZelvanTestCase {
+    name: "AdminMenuManagement"
+
+    property int food
+
+    function arrange() {
+        food = addCategory("Food")
+    }
+
+    function openFood() {
+        MenuService.currentCategoryId = food
+        show("admin/management/AdminMenuManagement")
+    }
+
+    function storedItems(): var {
+        return TestDb.rows("SELECT item, price, portion_size, is_available, is_taxable FROM menu ORDER BY id")
+    }
+
+    function categoryRow(category: string) {
+        return row(category)
+    }
+
+    function startRenaming() {
+        mouseClick(categoryRow("Food"), 20, 20, Qt.RightButton)
+        const entry = () => allShown(item => item.text === "Rename" && item.triggered !== undefined)[0]
+        tryVerify(() => entry() !== undefined)
+        mouseClick(entry())
+        tryVerify(() => field("Rename").activeFocus)
+    }
+
+    function test_nothing_but_a_heading_shows_without_a_category() {
+        show("admin/management/AdminMenuManagement")
+
+        verify(shows("Select a category"))
+        verify(!shows("Menu Items"))
+        verify(!hasButton("Add Menu Item"))
+    }
+
+    function test_a_click_selects_a_category() {
+        addItem("Soup", food, 5)
+        show("admin/management/AdminMenuManagement")
+
+        mouseClick(categoryRow("Food"))
+
+        compare(MenuService.currentCategoryId, food)
+        compare(categoryRow("Food").color, Theme.primary())
+        verify(shows("Menu Items"))
+        verify(shows("Soup"))
+    }
+
+    function test_a_category_is_added_as_it_was_typed() {
+        show("admin/management/AdminMenuManagement")
+        enter("New category name", " Drinks ")
+
+        press("Add Category")
+
+        compare(TestDb.value("SELECT category FROM categories ORDER BY id DESC"), " Drinks ")
+        compare(field("New category name").text, "")
+    }
+
+    function test_an_empty_category_name_sends_nothing() {
+        show("admin/management/AdminMenuManagement")
+
+        press("Add Category")
+
+        compare(TestDb.value("SELECT COUNT(*) FROM categories"), 1)
+    }
+
+    function test_a_category_name_of_blanks_is_sent_refused_and_kept() {
+        ignoreWarning(/Cannot add empty category name/)
+        show("admin/management/AdminMenuManagement")
+        enter("New category name", "   ")
+
+        press("Add Category")
+
+        compare(field("New category name").text, "   ")
+        compare(TestDb.value("SELECT COUNT(*) FROM categories"), 1)
+    }
+
+    function test_renaming_takes_the_focus_with_all_text_selected() {
+        show("admin/management/AdminMenuManagement")
+
+        startRenaming()
+
+        compare(field("Rename").selectedText, "Food")
+    }
+
+    function test_return_commits_a_trimmed_new_name() {
+        show("admin/management/AdminMenuManagement")
+        startRenaming()
+        enter("Rename", " Meals ")
+
+        keyClick(Qt.Key_Return)
+
+        compare(TestDb.value("SELECT category FROM categories"), "Meals")
+        verify(shows("Meals"))
+    }
+
+    function test_losing_the_focus_commits() {
+        show("admin/management/AdminMenuManagement")
+        startRenaming()
+        enter("Rename", "Meals")
+
+        field("New category name").forceActiveFocus()
+
+        compare(TestDb.value("SELECT category FROM categories"), "Meals")
+    }
+
+    function test_escape_does_not_commit() {
+        show("admin/management/AdminMenuManagement")
+        startRenaming()
+        enter("Rename", "Meals")
+
+        keyClick(Qt.Key_Escape)
+
+        compare(TestDb.value("SELECT category FROM categories"), "Food")
+        verify(shows("Food"))
+    }
+
+    function test_the_present_name_or_none_sends_nothing_data() {
+        return [{ tag: "Food" }, { tag: "   " }]
+    }
+
+    function test_the_present_name_or_none_sends_nothing(data) {
+        show("admin/management/AdminMenuManagement")
+        TestDb.run("CREATE TRIGGER no_update BEFORE UPDATE ON categories BEGIN SELECT RAISE(ABORT, 'sent'); END")
+        startRenaming()
+        enter("Rename", data.tag)
+
+        keyClick(Qt.Key_Return)
+
+        verify(shows("Food"))
+        TestDb.run("DROP TRIGGER no_update")
+    }
+
+    // The dialog's buttons are painted after those of the rows.
+    function answerWith(answer: string) {
+        const found = allShown(item => isButton(item) && item.text === answer)
+        mouseClick(found[found.length - 1])
+    }
+
+    function deleteCategory(answer: string) {
+        mouseClick(categoryRow("Food"), 20, 20, Qt.RightButton)
+        const entry = () => allShown(item => item.text === "Delete" && item.triggered !== undefined)[0]
+        tryVerify(() => entry() !== undefined)
+        mouseClick(entry())
+        tryVerify(() => shows("Delete Category"))
+        verify(shows("Are you sure you want to delete \"Food\"? All menu items within \"Food\" will be deleted."))
+        answerWith(answer)
+    }
+
+    function test_a_deleted_category_takes_its_items_and_the_selection_along() {
+        addItem("Soup", food, 5)
+        openFood()
+
+        deleteCategory("Delete")
+
+        compare(TestDb.value("SELECT COUNT(*) FROM categories"), 0)
+        compare(storedItems(), [])
+        verify(shows("Select a category"))
+    }
+
+    function test_a_declined_deletion_changes_nothing() {
+        openFood()
+
+        deleteCategory("Cancel")
+
+        compare(TestDb.value("SELECT COUNT(*) FROM categories"), 1)
+        verify(shows("Menu Items"))
+    }
+
+    function test_a_row_shows_price_and_portion() {
+        addItem("Soup", food, 5.5)
+        addItem("Tea", food, 2, "Large")
+
+        openFood()
+
+        verify(shows("$5.50"))
+        verify(shows("-"))
+        verify(shows("Large"))
+        compare(row("Soup").height, 44)
+    }
+
+    function test_an_item_is_added_and_the_form_starts_over() {
+        openFood()
+        enter("Item name", " Soup ")
+        enter("Price", "12.345")
+        enter("Portion (optional)", " L ")
+        mouseClick(button("Taxable"))
+
+        press("Add Menu Item")
+
+        compare(storedItems(), [{ item: "Soup", price: 1235, portion_size: "L", is_available: 1, is_taxable: 0 }])
+        for (const label of ["Item name", "Price", "Portion (optional)"])
+            compare(field(label).text, "", label)
+        verify(button("Taxable").checked)
+        verify(button("Available").checked)
+    }
+
+    function test_an_incomplete_item_is_not_added_data() {
+        return [{ tag: "no price", item: "Soup", price: "" }, { tag: "blank name", item: "  ", price: "5" }]
+    }
+
+    function test_an_incomplete_item_is_not_added(data) {
+        openFood()
+        enter("Item name", data.item)
+        enter("Price", data.price)
+
+        press("Add Menu Item")
+
+        compare(storedItems(), [])
+        compare(field("Item name").text, data.item)
+    }
+
+    function test_a_price_that_is_none_is_stored_as_zero_data() {
+        return [
+            { tag: "abc", cents: 0 }, { tag: "-1", cents: 0 }, { tag: "12,50", cents: 1200 }, { tag: "1e3", cents: 100000 }
+        ]
+    }
+
+    function test_a_price_that_is_none_is_stored_as_zero(data) {
+        openFood()
+        enter("Item name", "Soup")
+        enter("Price", data.tag)
+
+        press("Add Menu Item")
+
+        compare(storedItems()[0].price, data.cents)
+    }
+
+    function test_an_item_is_edited_in_place() {
+        addItem("Soup", food, 5)
+        openFood()
+        press("Edit")
+        compare(allShown(item => item.placeholderText === "Price")[0].text, "5.00")
+        enter("Item Name", " Broth ")
+
+        press("Save")
+
+        compare(storedItems()[0].item, "Broth")
+        compare(storedItems()[0].price, 500)
+        verify(hasButton("Edit"))
+        verify(!hasButton("Save"))
+    }
+
+    function editedPrice(text: string) {
+        const input = allShown(item => item.placeholderText === "Price")[0]
+        input.forceActiveFocus()
+        input.selectAll()
+        keyClick(Qt.Key_Delete)
+        for (const character of text)
+            keyClick(character)
+    }
+
+    function test_an_edited_price_that_is_none_is_stored_as_zero_data() {
+        return [{ tag: "letters", price: "abc" }, { tag: "empty", price: "" }, { tag: "negative", price: "-4" }]
+    }
+
+    function test_an_edited_price_that_is_none_is_stored_as_zero(data) {
+        addItem("Soup", food, 5)
+        openFood()
+        press("Edit")
+        editedPrice(data.price)
+
+        press("Save")
+
+        compare(storedItems()[0].price, 0)
+    }
+
+    function test_a_nameless_edit_stays_in_editing() {
+        addItem("Soup", food, 5)
+        openFood()
+        press("Edit")
+        enter("Item Name", "  ")
+
+        press("Save")
+
+        verify(hasButton("Save"))
+        compare(storedItems()[0].item, "Soup")
+    }
+
+    function test_the_boxes_are_alive_only_in_editing() {
+        addItem("Soup", food, 5)
+        openFood()
+        const boxes = () => allShown(item => item.checkState !== undefined && item.text === "")
+        verify(boxes().every(box => !box.enabled && box.checked))
+        press("Edit")
+
+        mouseClick(boxes()[0])
+        press("Save")
+
+        compare(storedItems()[0].is_available, 0)
+        compare(storedItems()[0].is_taxable, 1)
+    }
+
+    function test_an_item_is_deleted_only_after_a_yes_data() {
+        return [{ tag: "Cancel", left: 1 }, { tag: "Delete", left: 0 }]
+    }
+
+    function test_an_item_is_deleted_only_after_a_yes(data) {
+        addItem("Soup", food, 5)
+        openFood()
+
+        press("Delete")
+        verify(shows("Delete Item"))
+        verify(shows("Are you sure you want to delete \"Soup\"?"))
+        answerWith(data.tag)
+
+        compare(storedItems().length, data.left)
+    }
+
+    function test_an_item_that_orders_refer_to_stays_without_a_word() {
+        const soup = addItem("Soup", food, 5)
+        OrderService.createOrder("takeaway", [{ menuItemId: soup, qty: 1, notes: "" }], {})
+        ignoreWarning(/remove failed:/)
+        openFood()
+
+        press("Delete")
+        answerWith("Delete")
+
+        compare(storedItems().length, 1)
+        verify(shows("Soup"))
+    }
+
+    function test_a_row_keeps_what_was_being_typed_while_it_is_out_of_sight() {
+        for (let i = 0; i < 60; ++i)
+            addItem("Item " + i, food, 1)
+        openFood()
+        const list = theShown(item => item.reuseItems === true && item.spacing === 4, "the items")
+        mouseClick(items(row("Item 3")).find(item => item.text === "Edit"))
+        enter("Item Name", "Half typed")
+
+        list.positionViewAtEnd()
+        waitForRendering(page)
+        verify(!hasButton("Save"))
+        list.positionViewAtBeginning()
+        waitForRendering(page)
+
+        compare(field("Item Name").text, "Half typed")
+        compare(allShown(item => isButton(item) && item.text === "Save").length, 1)
+    }
+}
