@@ -58,6 +58,11 @@ void QmlTestStore::reset()
     refreshServices();
 }
 
+void QmlTestStore::addPrinter(const QString &name) const
+{
+    m_spooler.addPrinter(name, QStringLiteral("socket://127.0.0.1:9100"));
+}
+
 int QmlTestStore::printedDocuments() const
 {
     return static_cast<int>(m_spooler.documents().size());

@@ -29,6 +29,8 @@ public:
     /// The store of the first run: no data, seeded settings, and services that know it.
     Q_INVOKABLE void reset();
 
+    /// Lists one more printer from now on.
+    Q_INVOKABLE void addPrinter(const QString &name) const;
     /// How many jobs the printers got since the program's start.
     Q_INVOKABLE [[nodiscard]] int printedDocuments() const;
     /// The bytes of the last job as Latin-1 text.
