@@ -108,6 +108,7 @@ Item {
         // Kept inside a window that is too low for it.
         margins: 0
         modal: true
+        focus: true
         closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
         background: Rectangle {

@@ -5,7 +5,7 @@ import QtQuick.Controls
 import zelvan
 import zelvan.Theme 1.0
 import Zelvan.Services 1.0
-import "FloorColors.js" as FloorColors
+import "FloorRows.js" as FloorRows
 
 // The floor in the administrator's editor. What is moved here stays in the model until it is saved.
 Rectangle {
@@ -35,8 +35,7 @@ Rectangle {
             required property var model
             required property int index
 
-            // A text that does not parse ends the binding, and the empty object stands.
-            metadata: model.metadata ? JSON.parse(model.metadata) : ({})
+            metadata: FloorRows.metadata(model.metadata)
             x: model.x || 0
             y: model.y || 0
             type: model.type || "table"
@@ -47,7 +46,7 @@ Rectangle {
             z: model.z_order || 0
             capacity: model.capacity || 4
             label: model.label || ""
-            color: FloorColors.fill(model.status, Theme.surface)
+            color: FloorRows.fill(model.status, Theme.surface)
             borderColor: index === root.selectedIndex ? Theme.primary() : "#555555"
 
             Accessible.role: Accessible.Graphic

@@ -20,6 +20,11 @@ Item {
 
     signal timeChanged(int hour, int minute)
 
+    // From the columns themselves: the properties follow them only after their handlers.
+    function report() {
+        root.timeChanged(root.startHour + hourColumn.currentIndex, minuteColumn.currentIndex * root.minuteStep)
+    }
+
     // Rounds up to the next step. Clamping the hour leaves the minute as it is, which is meant:
     // 23:40 shows as 22:45.
     function showTime(presentHour: int, presentMinute: int) {
@@ -50,7 +55,7 @@ Item {
             model: root.totalHours
             first: root.startHour
             Accessible.name: "Hour"
-            onCurrentIndexChanged: root.timeChanged(root.hour, root.minute)
+            onCurrentIndexChanged: root.report()
         }
 
         PlainLabel {
@@ -71,7 +76,7 @@ Item {
             model: Math.floor(60 / root.minuteStep)
             step: root.minuteStep
             Accessible.name: "Minute"
-            onCurrentIndexChanged: root.timeChanged(root.hour, root.minute)
+            onCurrentIndexChanged: root.report()
         }
     }
 

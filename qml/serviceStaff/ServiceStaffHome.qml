@@ -8,10 +8,11 @@ import zelvan
 RowLayout {
     id: root
 
-    // An index outside the list leaves the page as it is.
+    // One entry a row of the sidebar; an index outside the list leaves the page as it is.
+    readonly property var pages: [orderTaking, checkout, kitchen]
+
     function loadPage(index: int) {
-        const pages = [orderTaking, checkout, kitchen]
-        page.show(pages[index] ?? null)
+        page.show(root.pages[index])
     }
 
     spacing: 0

@@ -80,7 +80,14 @@ TestCase {
         return item
     }
 
+    // Lets layouts and lists catch up with what happened.
+    function settle() {
+        root.Window.window.update()
+        waitForRendering(root)
+    }
+
     function allShown(accept): var {
+        settle()
         return items(windowItem()).filter(item => item.visible && accept(item))
     }
 
@@ -115,7 +122,18 @@ TestCase {
     }
 
     function press(text: string, index: var) {
-        mouseClick(button(text, index))
+        click(button(text, index))
+    }
+
+    function click(item) {
+        mouseClick(item)
+        settle()
+    }
+
+    // In the window's coordinates, since the item moves under the pointer.
+    function drag(item, dx: int, dy: int) {
+        const start = item.mapToItem(root, item.width / 2, item.height / 2)
+        mouseDrag(root, start.x, start.y, dx, dy)
     }
 
     // A row of a list, by what a screen reader calls it.

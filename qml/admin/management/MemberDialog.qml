@@ -17,6 +17,7 @@ ModalFrame {
 
     width: 700
     height: 500
+    focus: true
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
     onAboutToShow: {

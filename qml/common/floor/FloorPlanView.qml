@@ -3,7 +3,7 @@
 import QtQuick
 import zelvan
 import zelvan.Theme 1.0
-import "../../components/FloorColors.js" as FloorColors
+import "../../components/FloorRows.js" as FloorRows
 
 // The floor for taking orders: a click chooses a table, one on the empty floor none.
 Rectangle {
@@ -32,8 +32,7 @@ Rectangle {
             readonly property bool isTable: model.type === "table"
 
             editable: false
-            // A text that does not parse ends the binding, and the empty object stands.
-            metadata: model.metadata ? JSON.parse(model.metadata) : ({})
+            metadata: FloorRows.metadata(model.metadata)
             x: model.x || 0
             y: model.y || 0
             width: model.width || 80
@@ -44,7 +43,7 @@ Rectangle {
             // The type stays "table" for every row, so a wall says here that it has no chairs.
             capacity: isTable ? model.capacity || 4 : 0
             label: model.label || ""
-            color: isTable ? FloorColors.fill(model.status, Theme.surface) : Theme.surface
+            color: isTable ? FloorRows.fill(model.status, Theme.surface) : Theme.surface
             borderColor: isTable && model.table_id === root.selectedTableId ? Theme.primary() : "#555555"
 
             Accessible.role: Accessible.Button

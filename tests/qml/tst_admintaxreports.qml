@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtTest
+import Zelvan.Services 1.0
+import ZelvanTest 1.0
+
+ZelvanTestCase {
+    id: root
+
+    name: "AdminTaxReports"
+
+    function sell(closedAt: string, cents: int, tax: int, more: var) {
+        const id = TestDb.insert("INSERT INTO order_sessions (display_number, order_type, status, receipt_number, subtotal, tax, discount, total, closed_at) VALUES (1, 'takeaway', 'paid', " + (more?.receipt ? "'" + more.receipt + "'" : "NULL") + ", " + cents + ", " + tax + ", " + (more?.discount || 0) + ", " + (cents + tax - (more?.discount || 0)) + ", '" + closedAt + "')")
+        if (more?.taxName)
+            TestDb.run("INSERT INTO receipt_snapshot (order_session_id, store_name, tax_name, tax_rate, created_at) VALUES (" + id + ", 'r', '" + more.taxName + "', " + more.rate + ", '" + closedAt + "')")
+    }
+
+    function type(label: string, text: string) {
+        enter(label, text)
+        keyClick(Qt.Key_Return)
+    }
+
+    function setRange(from: string, to: string) {
+        type("To", to)
+        type("From", from)
+    }
+
+    function iso(day: date): string {
+        return Qt.formatDate(day, "yyyy-MM-dd")
+    }
+
+    function slashed(day: date): string {
+        return Qt.formatDate(day, "dd/MM/yyyy")
+    }
+
+    function test_an_empty_period() {
+        show("admin/AdminTaxReports")
+
+        verify(shows(slashed(new Date()) + " - " + slashed(new Date())))
+        for (const text of ["Sales Before Tax", "Tax Collected", "0%", "Discount", "Total Sales", "0transactions", "No data for this period", "No transactions for this period"])
+            verify(shows(text), text)
+        compare(texts().filter(text => text === "$0.00").length, 4)
+    }
+
+    function test_a_period_is_summed_day_by_day_and_session_by_session() {
+        sell("2025-03-01 10:00:00", 10000, 825, { receipt: "2025-000001", taxName: "VAT", rate: 825 })
+        sell("2025-03-01 11:00:00", 5000, 412, { discount: 100, taxName: "VAT", rate: 600 })
+        sell("2025-03-02 23:30:00", 200, 10)
+        sell("2025-03-03 00:00:00", 777, 1)
+        show("admin/AdminTaxReports")
+
+        setRange("2025-03-01", "2025-03-02")
+
+        for (const text of ["01/03/2025 - 02/03/2025", "$152.00", "VAT", "6%", "$12.47", "$1.00", "$163.47", "3transactions", "01/03/2025", "02/03/2025", "2025-000001", "2025-03-02 23:30:00"])
+            verify(shows(text), text)
+        compare(page.dailyBreakdown.length, 2)
+        compare(page.sessions.length, 3)
+        compare(page.sessions[0].closedAt, "2025-03-02 23:30:00")
+    }
+
+    function test_missing_fields_show_a_dash() {
+        sell("2025-03-01 10:00:00", 10000, 825)
+        show("admin/AdminTaxReports")
+
+        setRange("2025-03-01", "2025-03-01")
+
+        compare(texts().filter(text => text === "-").length, 2)
+        verify(shows("takeaway"))
+    }
+
+    function test_a_wrong_range_changes_nothing_data() {
+        return [
+            { tag: "reversed", from: "2025-03-02", to: "2025-03-01" },
+            { tag: "no date", from: "yesterday", to: "2025-03-01" },
+            { tag: "empty", from: "", to: "2025-03-01" }
+        ]
+    }
+
+    function test_a_wrong_range_changes_nothing(data) {
+        show("admin/AdminTaxReports")
+        const before = page.summary
+
+        theField("From").text = data.from
+        theField("To").text = data.to
+        page.loadCustomRange()
+
+        compare(page.summary, before)
+        compare(iso(page.fromDate), iso(new Date()))
+    }
+
+    function theField(label: string) {
+        return field(label)
+    }
+
+    function test_the_presets_data() {
+        const now = new Date()
+        const year = now.getFullYear()
+        const month = now.getMonth()
+        const day = now.getDate()
+        return [
+            { tag: "Today", from: now, to: now },
+            { tag: "Yesterday", from: new Date(year, month, day - 1), to: new Date(year, month, day - 1) },
+            { tag: "This Week", from: new Date(year, month, day - (now.getDay() + 6) % 7), to: now },
+            { tag: "This Month", from: new Date(year, month, 1), to: now },
+            { tag: "Last Month", from: new Date(year, month - 1, 1), to: new Date(year, month, 0) }
+        ]
+    }
+
+    function test_the_presets(data) {
+        show("admin/AdminTaxReports")
+
+        press(data.tag)
+
+        compare(page.summary.from, iso(data.from))
+        compare(page.summary.to, iso(data.to))
+        compare(field("From").text, iso(data.from))
+        compare(field("To").text, iso(data.to))
+    }
+
+    function test_dates_with_other_than_two_hyphens_stay_as_they_are() {
+        show("admin/AdminTaxReports")
+
+        compare(page.formatDate("2026-11-20"), "20/11/2026")
+        compare(page.formatDate("2026-11"), "2026-11")
+        compare(page.formatDate("-2026-11-20"), "-2026-11-20")
+        compare(page.formatDate(""), "")
+    }
+
+    function test_many_sessions_make_only_the_rows_on_screen() {
+        TestDb.run("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2000) INSERT INTO order_sessions (display_number, order_type, status, subtotal, tax, discount, total, closed_at) SELECT i, 'takeaway', 'paid', 100, 8, 0, 108, '2025-03-01 10:00:00' FROM n")
+        show("admin/AdminTaxReports")
+
+        setRange("2025-03-01", "2025-03-01")
+
+        compare(page.sessions.length, 2000)
+        verify(items(page).length < 1500)
+    }
+}

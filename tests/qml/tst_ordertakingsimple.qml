@@ -1,0 +1,325 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import QtTest
+import Zelvan.Services 1.0
+import ZelvanTest 1.0
+
+ZelvanTestCase {
+    id: root
+
+    property int windowTable
+    property int doorTable
+    property int food
+    property int soup
+    property int burger
+
+    name: "OrderTakingSimple"
+
+    function arrange() {
+        SettingService.saveKitchenSettings({ mode: "kds", ticket_print_timing: "manual", allow_edit_after_send: true })
+        windowTable = TableService.addTable("Window", 4)
+        doorTable = TableService.addTable("Door", 2)
+        food = addCategory("Food")
+        soup = addItem("Soup", food, 5)
+        burger = addItem("Burger", food, 12.5, "L")
+        MenuService.currentCategoryId = food
+    }
+
+    function lastOrder(column: string): var {
+        return TestDb.value("SELECT " + column + " FROM orders o JOIN order_sessions s ON s.id = o.order_session_id ORDER BY o.id DESC LIMIT 1")
+    }
+
+    function lines(): var {
+        return TestDb.rows("SELECT item_name, quantity, notes FROM order_items ORDER BY id")
+    }
+
+    function openEditList() {
+        press("Edit Order")
+        return allShown(item => item.Accessible.role === Accessible.ListItem && item.Accessible.name.startsWith("Order #"))
+    }
+
+    function test_a_category_is_chosen_for_all_screens() {
+        MenuService.currentCategoryId = -1
+        show("common/OrderTakingSimple")
+        verify(shows("Select a category"))
+        verify(!hasButton("Add"))
+
+        click(row("Food"))
+
+        compare(MenuService.currentCategoryId, food)
+        verify(shows("Menu Items"))
+        verify(shows("$12.50"))
+        verify(shows("L"))
+        verify(shows("-"))
+    }
+
+    function test_an_item_takes_one_line_and_the_figures_follow() {
+        show("common/OrderTakingSimple")
+
+        press("Add", 0)
+        press("Add", 0)
+        press("Add", 1)
+
+        compare(page.totalItems, 3)
+        compare(page.subtotal, 22.5)
+        compare(page.total, 22.5)
+        verify(shows("$22.50"))
+        compare(allShown(item => isButton(item) && item.text === "Remove").length, 2)
+    }
+
+    function test_an_unavailable_item_cannot_be_added() {
+        MenuService.editMenuItem(soup, "Soup", food, 5, false, true, "")
+        show("common/OrderTakingSimple")
+
+        verify(shows("Unavailable"))
+        verify(!button("Add", 0).enabled)
+        verify(button("Add", 1).enabled)
+    }
+
+    function test_a_quantity_does_not_fall_below_one() {
+        show("common/OrderTakingSimple")
+        press("Add", 0)
+        verify(!button("-").enabled)
+
+        press("+")
+        compare(page.totalItems, 2)
+        press("-")
+
+        compare(page.totalItems, 1)
+        verify(!button("-").enabled)
+        press("Remove")
+        compare(page.totalItems, 0)
+    }
+
+    function test_dine_in_needs_a_table() {
+        show("common/OrderTakingSimple")
+        verify(!button("Place Order").enabled)
+        press("Add", 0)
+        verify(button("Place Order").enabled)
+
+        press("Dine In")
+        verify(!button("Place Order").enabled)
+        click(row("Window"))
+
+        compare(page.selectedTableId, windowTable)
+        verify(button("Place Order").enabled)
+    }
+
+    function test_a_dine_in_order_is_stored_and_the_page_starts_afresh() {
+        show("common/OrderTakingSimple")
+        press("Dine In")
+        click(row("Window"))
+        press("Add", 1)
+        enter("Add a remark", "rare")
+
+        press("Place Order")
+
+        compare(lines(), [{ item_name: "Burger", quantity: 1, notes: "rare" }])
+        compare(lastOrder("order_type"), "dine_in")
+        compare(lastOrder("table_id"), windowTable)
+        compare(TestDb.value("SELECT status FROM tables WHERE id = " + windowTable), "occupied")
+        compare(page.currentOrderType, "")
+        compare(page.selectedTableId, -1)
+        compare(page.currentOrderId, -1)
+        compare(page.totalItems, 0)
+        verify(!button("Dine In").checked)
+    }
+
+    function test_an_order_without_a_type_is_stored_with_none_and_no_table() {
+        show("common/OrderTakingSimple")
+        press("Add", 0)
+
+        press("Place Order")
+
+        compare(lastOrder("order_type"), "")
+        compare(TestDb.value("SELECT COUNT(*) FROM order_sessions WHERE table_id IS NULL"), 1)
+    }
+
+    function test_a_second_order_joins_the_session_of_an_occupied_table() {
+        OrderService.createOrder("dine_in", [{ menuItemId: soup, qty: 1, notes: "" }], { tableId: windowTable })
+        show("common/OrderTakingSimple")
+        press("Dine In")
+        click(row("Window"))
+        press("Add", 0)
+
+        press("Place Order")
+
+        compare(TestDb.value("SELECT COUNT(*) FROM order_sessions"), 1)
+        compare(TestDb.value("SELECT COUNT(*) FROM orders"), 2)
+    }
+
+    function test_only_an_occupied_table_is_marked() {
+        TableService.setTableStatus(windowTable, "occupied")
+        TableService.setTableStatus(doorTable, "reserved")
+        show("common/OrderTakingSimple")
+        press("Dine In")
+
+        compare(row("Window").children[0].color, "#ff4d4d")
+        compare(row("Door").children[0].color, "#4caf50")
+    }
+
+    function test_the_grid_follows_every_change_of_status() {
+        show("common/OrderTakingSimple")
+        press("Dine In")
+        compare(row("Window").children[0].color, "#4caf50")
+
+        TableService.setTableStatus(windowTable, "occupied")
+
+        compare(row("Window").children[0].color, "#ff4d4d")
+    }
+
+    function test_tables_show_for_dine_in_only() {
+        show("common/OrderTakingSimple")
+        press("Takeaway")
+        compare(page.currentOrderType, "takeaway")
+        verify(!shows("Table"))
+
+        press("Dine In")
+
+        verify(shows("Table"))
+    }
+
+    function test_new_order_clears_everything() {
+        show("common/OrderTakingSimple")
+        press("Dine In")
+        click(row("Window"))
+        press("Add", 0)
+        openEditList()
+
+        press("New Order")
+
+        compare(page.totalItems, 0)
+        compare(page.currentOrderType, "")
+        compare(page.selectedTableId, -1)
+        compare(page.showEditOrdersList, false)
+    }
+
+    function test_an_order_is_loaded_and_sent_again() {
+        const id = OrderService.createOrder("dine_in", [{ menuItemId: soup, qty: 2, notes: "hot" }], { tableId: windowTable })
+        show("common/OrderTakingSimple")
+
+        click(openEditList()[0])
+        compare(page.currentOrderId, id)
+        compare(page.currentOrderType, "dine_in")
+        compare(page.selectedTableId, windowTable)
+        compare(page.totalItems, 2)
+        compare(field("Add a remark").text, "")
+        press("+")
+        press("Edit Order", 1)
+
+        compare(lines(), [{ item_name: "Soup", quantity: 3, notes: "hot" }])
+        compare(page.currentOrderId, -1)
+        verify(hasButton("Place Order"))
+    }
+
+    function test_leaving_dine_in_frees_the_table() {
+        OrderService.createOrder("dine_in", [{ menuItemId: soup, qty: 1, notes: "" }], { tableId: windowTable })
+        show("common/OrderTakingSimple")
+        click(openEditList()[0])
+
+        press("Takeaway")
+        press("Edit Order", 1)
+
+        compare(TestDb.value("SELECT status FROM tables WHERE id = " + windowTable), "available")
+        compare(lastOrder("order_type"), "takeaway")
+        compare(TestDb.value("SELECT COUNT(*) FROM order_sessions WHERE table_id IS NULL"), 1)
+    }
+
+    function test_yesterdays_order_is_not_offered() {
+        const old = OrderService.createOrder("takeaway", [{ menuItemId: soup, qty: 1, notes: "" }], {})
+        TestDb.run("UPDATE orders SET created_at = datetime('now', '-2 days') WHERE id = " + old)
+        const today = OrderService.createOrder("takeaway", [{ menuItemId: soup, qty: 1, notes: "" }], {})
+        show("common/OrderTakingSimple")
+
+        openEditList()
+
+        compare(page.editOrdersList.map(order => order.id), [today])
+    }
+
+    function test_the_list_tells_number_status_and_table() {
+        OrderService.createOrder("dine_in", [{ menuItemId: soup, qty: 1, notes: "" }], { tableId: windowTable })
+        show("common/OrderTakingSimple")
+
+        openEditList()
+
+        verify(shows("Order #" + lastOrder("o.display_number") + " (dine_in)"))
+        verify(shows("Status: pending"))
+        verify(shows("Table: Window"))
+        verify(!shows("Current Order"))
+        verify(!hasButton("Place Order"))
+    }
+
+    function test_lines_keyed_in_stay_until_an_order_is_picked() {
+        OrderService.createOrder("takeaway", [{ menuItemId: burger, qty: 5, notes: "" }], {})
+        show("common/OrderTakingSimple")
+        press("Add", 0)
+
+        const list = openEditList()
+        compare(page.totalItems, 1)
+        click(list[0])
+
+        compare(page.totalItems, 5)
+    }
+
+    function test_without_the_setting_no_way_leads_to_a_placed_order() {
+        setKitchenMode("kds", { allow_edit_after_send: false })
+        OrderService.createOrder("takeaway", [{ menuItemId: soup, qty: 1, notes: "" }], {})
+
+        show("common/OrderTakingSimple")
+
+        verify(!hasButton("Edit Order"))
+        verify(!hasButton("Print Ticket"))
+    }
+
+    function test_the_settings_are_read_once() {
+        show("common/OrderTakingSimple")
+
+        setKitchenMode("kds", { allow_edit_after_send: false })
+
+        verify(hasButton("Edit Order"))
+    }
+
+    function test_a_ticket_is_printed_by_hand_while_an_order_is_loaded_data() {
+        return [
+            { tag: "manual", timing: "manual", offered: true },
+            { tag: "order_created", timing: "order_created", offered: false }
+        ]
+    }
+
+    function test_a_ticket_is_printed_by_hand_while_an_order_is_loaded(data) {
+        setKitchenMode("kds", { ticket_print_timing: data.timing })
+        SettingService.savePrinter({ system_name: "TM88", role: "kitchen", paper_width: 80, cut_mode: "full" })
+        OrderService.createOrder("takeaway", [{ menuItemId: soup, qty: 1, notes: "" }], {})
+        show("common/OrderTakingSimple")
+        verify(!hasButton("Print Ticket"))
+        click(openEditList()[0])
+        compare(hasButton("Print Ticket"), data.offered)
+        const before = TestDb.printedDocuments()
+
+        if (data.offered)
+            press("Print Ticket")
+
+        compare(TestDb.printedDocuments() - before, data.offered ? 1 : 0)
+    }
+
+    function test_names_are_shown_as_they_were_typed() {
+        MenuService.editMenuItem(soup, "<img src='x'>", food, 5, true, true, "")
+        show("common/OrderTakingSimple")
+
+        press("Add", 0)
+
+        compare(texts().filter(text => text === "<img src='x'>").length, 2)
+    }
+
+    function test_the_layout_mode_switches_the_page_at_once() {
+        FloorPlanService.createFloor("Hall")
+        show("common/OrderTaking")
+        verify(hasButton("Place Order"))
+
+        SettingService.saveTableSettings({ layout_mode: "floor_plan" })
+
+        verify(!hasButton("Place Order"))
+        verify(shows("Table Session"))
+    }
+}
