@@ -278,6 +278,7 @@ Item {
                     ColumnLayout {
                         Layout.fillWidth: true
                         Layout.leftMargin: 8
+                        Layout.rightMargin: 8
                         visible: !root.showEditOrdersList
                         spacing: 4
 
