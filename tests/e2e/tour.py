@@ -18,6 +18,15 @@ SUPPORT = pathlib.Path(__file__).resolve().parents[1] / "support"
 PASSWORD = "correct horse"
 PHONE = "5550142"
 
+# What the log may hold beside its news.
+ANNOUNCED = (
+    # A set-up run has no database, and its services ask for their rows all the same.
+    r"QSqlQuery::prepare: database not open",
+    r"Driver not loaded",
+    # The cashier's page forgets a paid session, and its handler looks at it once more.
+    r"Checkout\.qml:\d+: TypeError",
+)
+
 
 class Tour:
     def __init__(self, program, pictures, work):
@@ -145,10 +154,10 @@ class Tour:
         screen = self.screen
         screen.press("Management")
         screen.press("Menu")
-        screen.type_into("New category name", "Kitchen")
+        screen.type_into("New category name", "Lunch")
         screen.press("Add Category")
-        self.database.expect("SELECT category FROM categories", "Kitchen")
-        screen.press("Kitchen", roles=ROW)
+        self.database.expect("SELECT category FROM categories", "Lunch")
+        screen.press("Lunch", roles=ROW)
         screen.says("Menu Items")
         self.add_item("Espresso", "3.50")
         self.add_item("牛肉面", "12.80", portion="Large")
@@ -238,7 +247,7 @@ class Tour:
 
     def a_dine_in_order_is_taken(self):
         screen = self.screen
-        screen.press("Kitchen", roles=ROW)
+        screen.press("Lunch", roles=ROW)
         # What is not available stays out: the lines stored below are all there are.
         screen.press("Add", within=screen.row("Truffle pasta"))
         screen.press("Dine In")
@@ -300,7 +309,7 @@ class Tour:
         screen = self.screen
         screen.press("Take Order")
         screen.press("Takeaway")
-        screen.press("Kitchen", roles=ROW)
+        screen.press("Lunch", roles=ROW)
         self.pick("Espresso")
         screen.press("+", within=screen.row("Espresso", index=1))
         self.pick("Bottled water")
@@ -432,6 +441,14 @@ class Tour:
         self.database.expect("SELECT count(*) FROM order_sessions WHERE status = 'paid'", "2")
         screen.close()
 
+    def the_log_holds_no_surprise(self):
+        logs = sorted((self.work / "data/Zelvan/ZelvanPOS/logs").glob("*.log"))
+        lines = [line for log in logs for line in log.read_text(encoding="utf-8").splitlines()]
+        assert any("[INFO] [default] Logging initialized." in line for line in lines), logs
+        loud = [line for line in lines if re.search(r"\[(WARN|ERROR|FATAL)\]", line)]
+        surprises = [line for line in loud if not any(re.search(each, line) for each in ANNOUNCED)]
+        assert not surprises, "\n".join(surprises)
+
     def choose_file(self, path):
         """Takes a file in the dialog that the program brings along where the desktop has none."""
         screen = self.screen
@@ -469,6 +486,7 @@ class Tour:
             self.the_second_bill_redeems_the_points,
             self.the_database_is_backed_up,
             self.what_came_after_the_backup_is_gone_after_its_restore,
+            self.the_log_holds_no_surprise,
         ]
         for step in steps:
             begin = time.monotonic()
