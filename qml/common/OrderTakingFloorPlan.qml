@@ -50,15 +50,15 @@ Item {
 
     function showFirstFloor() {
         if (FloorPlanService.floorModel.rowCount() > 0)
-            showFloor(FloorPlanService.floorModel.getFloor(0).id)
+            showFloor(FloorPlanService.floorModel.getFloor(0).id) // qmllint disable type
     }
 
     // The model has no `count`, so this never stops: the first floor is loaded a second time, and
     // with no floor the assignment fails with a line in the log. Both are meant.
     function showFirstFloorAgain() {
-        if (FloorPlanService.floorModel.count === 0)
+        if (FloorPlanService.floorModel.count === 0) // qmllint disable type
             return
-        currentFloorId = FloorPlanService.floorModel.getFloor(0).id
+        currentFloorId = FloorPlanService.floorModel.getFloor(0)["id"]
         FloorPlanService.loadCanvas(currentFloorId)
     }
 
@@ -75,7 +75,7 @@ Item {
 
     function editReservation() {
         const active = ReservationService.getActiveReservationByTable(selectedTableId)
-        if (active.id)
+        if (active.id) // qmllint disable type
             reservationDialog.openEdit(active)
     }
 
@@ -178,6 +178,6 @@ Item {
 
     Component.onCompleted: {
         FloorPlanService.loadFloors()
-        Qt.callLater(showFirstFloorAgain)
+        Qt.callLater(showFirstFloorAgain) // qmllint disable type
     }
 }

@@ -3,7 +3,6 @@
 import QtQuick
 import QtQuick.Layouts
 import zelvan
-import zelvan.Theme 1.0
 import Zelvan.Services 1.0
 
 // The menu's categories at the left of an order screen. The choice is shared by all screens.

@@ -16,7 +16,7 @@ ModalFrame {
     function finish(confirmed: bool): void {
         root.close()
         if (root.confirmCallback)
-            root.confirmCallback(confirmed)
+            root.confirmCallback(confirmed) // qmllint disable type
     }
 
     width: 360

@@ -19,7 +19,7 @@ Item {
     // Read anew at each opening, so that a picker kept over midnight knows its day.
     property date now: new Date()
 
-    function sameDay(a: date, b: date): bool {
+    function sameDay(a: var, b: var): bool {
         return a.getFullYear() === b.getFullYear() && a.getMonth() === b.getMonth() && a.getDate() === b.getDate()
     }
 

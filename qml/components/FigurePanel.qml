@@ -39,21 +39,23 @@ Rectangle {
             Accessible.name: root.title
 
             delegate: RowLayout {
+                id: row
+
                 required property var modelData
 
                 width: ListView.view.width
 
                 Accessible.role: Accessible.ListItem
-                Accessible.name: modelData.text
+                Accessible.name: row.modelData.text
 
                 PlainLabel {
                     Layout.fillWidth: true
-                    text: modelData.text
+                    text: row.modelData.text
                     elide: Text.ElideRight
                 }
 
                 PlainLabel {
-                    text: modelData.figure
+                    text: row.modelData.figure
                     font.bold: root.boldFigures
                 }
             }

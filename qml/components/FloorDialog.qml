@@ -3,7 +3,6 @@
 import QtQuick
 import QtQuick.Layouts
 import zelvan
-import zelvan.Theme 1.0
 
 // Asks for the name of a new floor. The field keeps its text to the next opening; an empty name is
 // accepted.
@@ -21,7 +20,8 @@ ModalFrame {
     width: 360
     height: 260
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 12
 
         PageHeading {

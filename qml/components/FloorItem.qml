@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import zelvan
-import zelvan.Theme 1.0
 
 // One item of a floor: a table with its chairs, or a wall, with the handles that edit it.
 Item {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import zelvan
 import zelvan.Theme 1.0
 
 // The handles of a wall: one that turns it and one that lengthens it. Tables have none.

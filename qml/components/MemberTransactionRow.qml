@@ -3,7 +3,6 @@
 import QtQuick
 import QtQuick.Layouts
 import zelvan
-import zelvan.Theme 1.0
 
 // One line of a member's points history.
 Rectangle {

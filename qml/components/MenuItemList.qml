@@ -3,7 +3,6 @@
 import QtQuick
 import QtQuick.Layouts
 import zelvan
-import zelvan.Theme 1.0
 import Zelvan.Services 1.0
 
 // The items of the chosen category in the middle of an order screen. The texts are the screen's,

@@ -30,7 +30,9 @@ ModalFrame {
         color: Theme.surface
         radius: 8
     }
-    contentItem: ColumnLayout {
+
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 12
 
         PageHeading {

@@ -15,7 +15,7 @@ Rectangle {
     property list<string> disabledKeys
     property color restColor: Theme.background
     property int buttonRadius: 0
-    property string fontFamily: Qt.application.font.family
+    property string fontFamily: Qt.application.font.family // qmllint disable type
 
     signal selectionChanged(int index)
 

@@ -4,7 +4,6 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 import zelvan
-import zelvan.Theme 1.0
 
 // Asks for the label, the seats and the shape of a new table. The values stay for the next opening.
 ModalFrame {
@@ -26,7 +25,8 @@ ModalFrame {
     width: 360
     height: 320
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 6
 
         PageHeading {

@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import zelvan
-import zelvan.Theme 1.0
 
 // A time within the opening hours, in steps of a quarter of an hour.
 Item {

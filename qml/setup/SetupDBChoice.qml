@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
@@ -31,7 +30,7 @@ SetupFrame {
     function createHere(): void {
         switch (SetupService.initializeApp(root.currentPath)) {
         case SetupService.Success:
-            Qt.callLater(SetupService.restartApp)
+            Qt.callLater(SetupService.restartApp) // qmllint disable type
             break
         case SetupService.DatabaseExists:
             // qmllint disable unqualified
@@ -52,7 +51,7 @@ SetupFrame {
     function useExisting(): void {
         // Restarts whatever the answer: the next start finds the old path where opening failed.
         DatabaseService.openDatabase(root.currentPath)
-        Qt.callLater(SetupService.restartApp)
+        Qt.callLater(SetupService.restartApp) // qmllint disable type
     }
 
     PlainLabel {

@@ -23,7 +23,7 @@ SetupFrame {
         switch (SetupService.initializeApp(path)) {
         case SetupService.Success:
             root.running = false
-            Qt.callLater(SetupService.restartApp)
+            Qt.callLater(SetupService.restartApp) // qmllint disable type
             break
         case SetupService.DatabaseExists:
             root.running = false

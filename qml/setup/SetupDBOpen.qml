@@ -19,7 +19,7 @@ SetupFrame {
         root.errorText = ""
         root.running = true
         if (DatabaseService.openDatabase(root.selectedPath)) {
-            Qt.callLater(SetupService.restartApp)
+            Qt.callLater(SetupService.restartApp) // qmllint disable type
             return
         }
         root.running = false

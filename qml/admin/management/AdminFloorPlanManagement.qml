@@ -31,7 +31,7 @@ Item {
         if (floorId !== currentFloorId)
             return
         if (FloorPlanService.floorModel.rowCount() > 0) {
-            showFloor(FloorPlanService.floorModel.getFloor(0).id)
+            showFloor(FloorPlanService.floorModel.getFloor(0).id) // qmllint disable type
         } else {
             currentFloorId = -1
             FloorPlanService.clearCanvas()
@@ -67,7 +67,7 @@ Item {
     implicitHeight: 600
 
     Shortcut {
-        sequences: [StandardKey.Save]
+        sequences: [StandardKey.Save] // qmllint disable unqualified
         onActivated: if (root.currentFloorId > 0) FloorPlanService.saveCanvas(root.currentFloorId)
     }
 
@@ -196,6 +196,6 @@ Item {
     Component.onCompleted: {
         FloorPlanService.loadFloors()
         if (FloorPlanService.floorModel.rowCount() > 0)
-            showFloor(FloorPlanService.floorModel.getFloor(0).id)
+            showFloor(FloorPlanService.floorModel.getFloor(0).id) // qmllint disable type
     }
 }

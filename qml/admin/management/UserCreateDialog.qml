@@ -25,7 +25,8 @@ ModalFrame {
     width: 460
     height: 450
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 10
 
         PageHeading {

@@ -19,7 +19,8 @@ ModalFrame {
     width: 320
     height: 300
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 12
 
         PageHeading {

@@ -24,7 +24,8 @@ ModalFrame {
     width: 360
     height: 380
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 12
 
         PageHeading {

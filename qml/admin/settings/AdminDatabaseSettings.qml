@@ -42,7 +42,7 @@ ScrollPage {
     function restore(): void {
         if (DatabaseService.restoreDatabase(root.selectedRestoreFile)) {
             root.successMessage = qsTr("Database restored successfully.")
-            Qt.callLater(SetupService.restartApp)
+            Qt.callLater(SetupService.restartApp) // qmllint disable type
         } else {
             root.errorMessage = qsTr("Failed to restore database.")
         }
@@ -63,7 +63,7 @@ ScrollPage {
         root.moveInProgress = false
         if (moved) {
             root.successMessage = qsTr("Database moved successfully.")
-            Qt.callLater(SetupService.restartApp)
+            Qt.callLater(SetupService.restartApp) // qmllint disable type
         } else {
             root.errorMessage = qsTr("Failed to move database.")
         }

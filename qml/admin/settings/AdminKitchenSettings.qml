@@ -13,7 +13,10 @@ SettingsPage {
     readonly property string mode: modeBox.currentValue ?? ""
 
     function load(): void {
-        const settings = SettingService.getKitchenSettings()
+        root.fill(SettingService.getKitchenSettings())
+    }
+
+    function fill(settings: var): void {
         if (settings.id === undefined)
             return
         root.settingsId = settings.id

@@ -13,7 +13,10 @@ SettingsPage {
     property string currencySymbol: SettingService.currencySymbol()
 
     function load(): void {
-        const settings = SettingService.getMembershipSettings()
+        root.fill(SettingService.getMembershipSettings())
+    }
+
+    function fill(settings: var): void {
         if (settings.id === undefined)
             return
         root.settingsId = settings.id

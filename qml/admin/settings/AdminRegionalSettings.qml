@@ -12,7 +12,10 @@ SettingsPage {
     property int settingsId: 1
 
     function load(): void {
-        const settings = SettingService.getRegionalSettings()
+        root.fill(SettingService.getRegionalSettings())
+    }
+
+    function fill(settings: var): void {
         if (settings.id === undefined)
             return
         root.settingsId = settings.id

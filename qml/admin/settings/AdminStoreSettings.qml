@@ -16,7 +16,10 @@ SettingsPage {
     property string website
 
     function load(): void {
-        const restaurant = SettingService.getRestaurant()
+        root.fill(SettingService.getRestaurant())
+    }
+
+    function fill(restaurant: var): void {
         root.name = restaurant.name || ""
         root.address = restaurant.address || ""
         root.phoneNumber = restaurant.phone_number || ""

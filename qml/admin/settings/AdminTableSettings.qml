@@ -13,7 +13,10 @@ SettingsPage {
     property int settingsId: 1
 
     function load(): void {
-        const settings = SettingService.getTableSettings()
+        root.fill(SettingService.getTableSettings())
+    }
+
+    function fill(settings: var): void {
         if (settings.id === undefined)
             return
         root.settingsId = settings.id

@@ -10,7 +10,10 @@ SettingsPage {
     id: root
 
     function load(): void {
-        const settings = SettingService.getTaxSettings()
+        root.fill(SettingService.getTaxSettings())
+    }
+
+    function fill(settings: var): void {
         if (settings.id === undefined)
             return
         enabledSwitch.checked = settings.enabled

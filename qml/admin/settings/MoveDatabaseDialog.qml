@@ -17,7 +17,8 @@ ModalFrame {
     width: 650
     height: 360
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 10
 
         PageHeading {

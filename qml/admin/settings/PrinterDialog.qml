@@ -81,7 +81,8 @@ ModalFrame {
     width: 400
     height: 500
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 8
 
         PageHeading {

@@ -16,7 +16,8 @@ ModalFrame {
     width: 650
     height: 300
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 14
 
         PageHeading {

@@ -64,7 +64,8 @@ ModalFrame {
     width: 580
     height: 520
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 12
 
         PageHeading {
