@@ -2,12 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "services/CheckoutService.h"
 #include "support/DatabaseDump.h"
+#include "support/DatabaseFiles.h"
+#include "support/FileSizeLimit.h"
 #include "support/LogCapture.h"
 #include "support/TestStore.h"
 #include "support/ZelvanTest.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -64,6 +71,9 @@ private slots:
     void aVanishedPrinterStopsNoOrderAndNoPayment();
     void aLockedDatabaseFailsThePaymentWhole();
     void aLockedDatabaseTakesNoOrder();
+    void aFullDiskFailsThePaymentWhole();
+    void aFileThatIsNoStoreIsNeitherOpenedNorRestored_data();
+    void aFileThatIsNoStoreIsNeitherOpenedNorRestored();
 
 private:
     [[nodiscard]] QString paper(const QString &printer) const;
@@ -239,6 +249,74 @@ void tst_BadInput::aLockedDatabaseTakesNoOrder()
     }
     QCOMPARE(dumpOf(m_store->database), before);
     QVERIFY(orderAtT1() > 0);
+}
+
+void tst_BadInput::aFullDiskFailsThePaymentWhole()
+{
+    const int session = m_store->sessionOf(orderAtT1());
+    const QStringList before = dumpOf(m_store->database);
+    const qint64 written = QFileInfo(m_store->database.path() + "-wal").size();
+    QVERIFY(written > 0);
+    {
+        const FileSizeLimit fullDisk{static_cast<rlim_t>(written)};
+        const LogCapture log;
+
+        QVERIFY(!m_store->services.checkout.completeCheckout(session, {}, 0));
+
+        QVERIFY(!LogCapture::lines().filter("checkout: ").isEmpty());
+    }
+    QCOMPARE(dumpOf(m_store->database), before);
+
+    // Once there is room again, the very same bill can be paid.
+    QVERIFY(m_store->services.checkout.completeCheckout(session, {}, 0));
+    QCOMPARE(m_store->text("SELECT status FROM order_sessions"), QStringLiteral("paid"));
+    QCOMPARE(m_store->text("PRAGMA integrity_check"), QStringLiteral("ok"));
+}
+
+void tst_BadInput::aFileThatIsNoStoreIsNeitherOpenedNorRestored_data()
+{
+    QTest::addColumn<std::function<void(const QString &)>>("make");
+    const auto row = [](const char *name, const std::function<void(const QString &)> &make) {
+        QTest::newRow(name) << make;
+    };
+    const auto cut = [](const std::function<qint64(qint64)> &size) {
+        return [size](const QString &path) {
+            QVERIFY(DatabaseManager::checkpointWal());
+            QVERIFY(QFile::copy(DatabaseManager::connection().databaseName(), path));
+            QVERIFY(QFile::resize(path, size(QFileInfo(path).size())));
+        };
+    };
+    row("text", DatabaseFiles::makeText);
+    row("another program's", DatabaseFiles::makeForeign);
+    row("nothing in it", [](const QString &path) { QVERIFY(QFile(path).open(QFile::WriteOnly)); });
+    row("no table in it", [](const QString &path) { DatabaseFiles::run(path, "VACUUM"); });
+    row("cut within its head", cut([](qint64) { return 60; }));
+    row("cut after its first page", cut([](qint64) { return 4096; }));
+    row("cut in the middle", cut([](qint64 size) { return size / 2; }));
+    row("without its last page", cut([](qint64 size) { return size - 4096; }));
+}
+
+void tst_BadInput::aFileThatIsNoStoreIsNeitherOpenedNorRestored()
+{
+    QFETCH(std::function<void(const QString &)>, make);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("Picked.db");
+    make(path);
+    const auto content = [&path] {
+        QFile file(path);
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    };
+    const QByteArray before = content();
+    const LogCapture log;
+
+    QVERIFY(!m_store->services.databaseMaintenance.openDatabase(path));
+    QVERIFY(!m_store->services.databaseMaintenance.restoreDatabase(path));
+
+    QVERIFY(LogCapture::lines().contains("warning database: Database is not a Zelvan database."));
+    QVERIFY(LogCapture::lines().contains("warning database: Database is not a Zelvan Database"));
+    QVERIFY(!QSettings().contains("database/path"));
+    QVERIFY(!QSettings().contains("database/pendingRestore"));
+    QCOMPARE(content(), before);
 }
 
 ZELVAN_TEST(tst_BadInput)
