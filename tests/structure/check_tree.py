@@ -18,7 +18,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 NOT_OURS = {".git", "build", ".cache", "__pycache__"}  # folders
-NO_LICENCE_LINES = {".png", ".json", ".ts", ".sql", ".bin", ".svg"}
+NO_LICENCE_LINES = {".md", ".png", ".json", ".ts", ".sql", ".bin", ".svg"}
 SOURCE_FOLDERS = ("core", "repositories", "models", "services", "printing", "qml")
 
 
@@ -84,7 +84,7 @@ def include_direction(_):
 def licence_lines(_):
     """Each file says who wrote it and under which licence, in two lines near its top."""
     for path in tree():
-        if path.suffix in NO_LICENCE_LINES or path.name.startswith(".") or path.suffix == ".md":
+        if path.suffix in NO_LICENCE_LINES or path.name.startswith(".") or path.name == "LICENSE":
             continue
         head = "\n".join((text(path) or "").splitlines()[:6])
         if "SPDX-FileCopyrightText:" not in head or "SPDX-License-Identifier:" not in head:
