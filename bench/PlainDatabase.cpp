@@ -79,7 +79,7 @@ void PlainDatabase::replay(const QList<RecordedStatement> &statements)
     sqlite3_stmt *statement = nullptr;
     QByteArray prepared;
     for (const RecordedStatement &recorded : statements) {
-        if (recorded.sql == prepared) {
+        if (recorded.sql == prepared && prepared.trimmed().startsWith("INSERT")) {
             sqlite3_reset(statement);
         } else {
             sqlite3_finalize(statement);

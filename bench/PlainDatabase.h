@@ -29,8 +29,9 @@ public:
     /// Tables in alphabetical order, each with its number of rows.
     [[nodiscard]] QByteArrayList rowCounts();
 
-    /// Prepares, binds, steps and finalizes each statement, reading every column of every row. A
-    /// statement that comes several times in a row is prepared once and reset in between.
+    /// Prepares, binds, steps and finalizes each statement, reading every column of every row. An
+    /// insert that comes several times in a row is prepared once and reset in between, as the rows
+    /// of a floor are saved.
     void replay(const QList<RecordedStatement> &statements);
 
     [[nodiscard]] sqlite3_stmt *prepare(const QByteArray &sql);
