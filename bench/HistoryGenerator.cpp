@@ -50,6 +50,65 @@ struct Dish
     bool taxable;
 };
 
+struct Line
+{
+    int menuIndex;
+    int quantity;
+};
+
+/// Cents.
+struct Bill
+{
+    int subtotal = 0;
+    int tax = 0;
+    [[nodiscard]] int total() const { return subtotal + tax; }
+};
+
+/// One paid session as it was drawn.
+struct Sale
+{
+    int ofDay = 0;
+    QByteArray openedAt;
+    QByteArray closedAt;
+    QByteArray receiptNumber;
+    const char *type = "";
+    /// 0 for none, of both.
+    int tableId = 0;
+    int member = 0;
+    QList<Line> lines;
+};
+
+/// The tables that a sale fills.
+struct SalesTables
+{
+    explicit SalesTables(PlainDatabase &database)
+        : session(database,
+                  "INSERT INTO order_sessions (display_number, receipt_number, table_id, "
+                  "order_type, status, points_earned, subtotal, tax, total, opened_at, closed_at) "
+                  "VALUES (?, ?, NULLIF(?, 0), ?, 'paid', ?, ?, ?, ?, ?, ?)")
+        , order(database, "INSERT INTO orders (order_session_id, display_number, status, notes, "
+                          "created_at, closed_at) VALUES (?, ?, 'served', '', ?, ?)")
+        , line(database,
+               "INSERT INTO order_items (order_id, item_id, item_name, quantity, portion_size, "
+               "price, is_taxable, item_status, notes, created_at) "
+               "VALUES (?, ?, ?, ?, ?, ?, ?, 'served', ?, ?)")
+        , snapshot(database,
+                   "INSERT INTO receipt_snapshot (order_session_id, cashier_name, store_name, "
+                   "address, phone, email, website, tax_name, tax_rate, tax_registration_number, "
+                   "order_type, table_name, created_at) VALUES (?, 'admin', 'Lotus Garden', '1 "
+                   "Main Street', '555-0100', 'hi@lotus.example', 'lotus.example', 'Sales Tax', "
+                   "825, 'REG-7', ?, ?, ?)")
+        , points(database, "INSERT INTO membership_transactions (membership_id, order_session_id, "
+                           "type, points, created_at) VALUES (?, ?, 'earn', ?, ?)")
+    {}
+
+    PlainInsert session;
+    PlainInsert order;
+    PlainInsert line;
+    PlainInsert snapshot;
+    PlainInsert points;
+};
+
 /// Fills one file; the steps follow the foreign keys.
 class HistoryWriter
 {
@@ -145,72 +204,61 @@ private:
 
     void writeSessions()
     {
-        PlainInsert session(
-            m_database,
-            "INSERT INTO order_sessions (display_number, receipt_number, table_id, order_type, "
-            "status, points_earned, subtotal, tax, total, opened_at, closed_at) "
-            "VALUES (?, ?, ?, ?, 'paid', ?, ?, ?, ?, ?, ?)");
-        PlainInsert order(m_database,
-                          "INSERT INTO orders (order_session_id, display_number, status, notes, "
-                          "created_at, closed_at) VALUES (?, ?, 'served', '', ?, ?)");
-        PlainInsert line(m_database, "INSERT INTO order_items (order_id, item_id, item_name, "
-                                     "quantity, portion_size, price, is_taxable, item_status, "
-                                     "notes, created_at) VALUES (?, ?, ?, ?, ?, ?, ?, 'served', "
-                                     "?, ?)");
-        PlainInsert snapshot(
-            m_database,
-            "INSERT INTO receipt_snapshot (order_session_id, cashier_name, store_name, address, "
-            "phone, email, website, tax_name, tax_rate, tax_registration_number, order_type, "
-            "table_name, created_at) VALUES (?, 'admin', 'Lotus Garden', '1 Main Street', "
-            "'555-0100', 'hi@lotus.example', 'lotus.example', 'Sales Tax', 825, 'REG-7', ?, ?, ?)");
-        PlainInsert points(m_database,
-                           "INSERT INTO membership_transactions (membership_id, order_session_id, "
-                           "type, points, created_at) VALUES (?, ?, 'earn', ?, ?)");
-        int orderOfDay = 0;
+        SalesTables tables(m_database);
         for (int number = 0; number < m_pastSessions; ++number) {
-            const int back = m_pastSessions - 1 - number;
-            const int ofDay =
-                HistoryShape::sessionsPerDay - 1 - back % HistoryShape::sessionsPerDay;
-            orderOfDay = ofDay == 0 ? 0 : orderOfDay;
-            const QDateTime openedAt = m_today.addDays(-(back / HistoryShape::sessionsPerDay))
-                                           .addSecs(11 * 3600 + ofDay * 150);
-            const QByteArray opened = stamp(openedAt);
-            const QByteArray closed = stamp(openedAt.addSecs(2700));
-
-            const int orderCount = number % 4 == 0 ? 2 : 1;
-            QList<Line> lines;
-            for (int index = 0; index < orderCount * HistoryShape::linesPerOrder; ++index) {
-                lines.append({below(HistoryShape::menuItems), 1 + below(3)});
-            }
-            const Bill bill = billOf(lines);
-            const int kind = below(10);
-            const char *type = kind < 7 ? "dine_in" : kind < 9 ? "takeaway" : "delivery";
-            const int tableId = kind < 7 ? 1 + below(HistoryShape::tables) : 0;
-            const bool hasMember = number % 4 == 1;
-            const int earned = hasMember ? bill.total() / 1000 : 0;
-            const QByteArray receipt =
-                opened.left(5) + QByteArray::number(number).rightJustified(6, '0');
-            const qint64 sessionId =
-                tableId > 0 ? session(4000 + ofDay, receipt, tableId, type, earned, bill.subtotal,
-                                      bill.tax, bill.total(), opened, closed)
-                            : session(4000 + ofDay, receipt, nullptr, type, earned, bill.subtotal,
-                                      bill.tax, bill.total(), opened, closed);
-            for (int index = 0; index < lines.size(); ++index) {
-                if (index % HistoryShape::linesPerOrder == 0) {
-                    m_orderId = order(sessionId, 4000 + orderOfDay++, opened, closed);
-                }
-                const Line &sold = lines.at(index);
-                const Dish &dish = m_menu.at(sold.menuIndex);
-                line(m_orderId, sold.menuIndex + 1, dish.name, sold.quantity, dish.portion,
-                     double(dish.cents), int(dish.taxable), index % 9 == 0 ? "no onions" : "",
-                     opened);
-            }
-            if (earned > 0) {
-                points(1 + below(HistoryShape::members), sessionId, earned, closed);
-            }
-            snapshot(sessionId, type,
-                     tableId > 0 ? 'T' + QByteArray::number(tableId) : QByteArray(), closed);
+            writeSession(tables, drawSale(number));
         }
+    }
+
+    [[nodiscard]] Sale drawSale(int number)
+    {
+        const int back = m_pastSessions - 1 - number;
+        Sale sale;
+        sale.ofDay = HistoryShape::sessionsPerDay - 1 - back % HistoryShape::sessionsPerDay;
+        const QDateTime opened = m_today.addDays(-(back / HistoryShape::sessionsPerDay))
+                                     .addSecs(11 * 3600 + sale.ofDay * 150);
+        sale.openedAt = stamp(opened);
+        sale.closedAt = stamp(opened.addSecs(2700));
+        sale.receiptNumber =
+            sale.openedAt.left(5) + QByteArray::number(number).rightJustified(6, '0');
+        const int orders = number % 4 == 0 ? 2 : 1;
+        for (int index = 0; index < orders * HistoryShape::linesPerOrder; ++index) {
+            const int menuIndex = below(HistoryShape::menuItems);
+            sale.lines.append({menuIndex, 1 + below(3)});
+        }
+        const int kind = below(10);
+        sale.type = kind < 7 ? "dine_in" : kind < 9 ? "takeaway" : "delivery";
+        sale.tableId = kind < 7 ? 1 + below(HistoryShape::tables) : 0;
+        sale.member = number % 4 == 1 ? 1 + below(HistoryShape::members) : 0;
+        return sale;
+    }
+
+    void writeSession(SalesTables &tables, const Sale &sale)
+    {
+        const Bill bill = billOf(sale.lines);
+        const int earned = sale.member > 0 ? bill.total() / 1000 : 0;
+        const qint64 sessionId =
+            tables.session(4000 + sale.ofDay, sale.receiptNumber, sale.tableId, sale.type, earned,
+                           bill.subtotal, bill.tax, bill.total(), sale.openedAt, sale.closedAt);
+        m_orderOfDay = sale.ofDay == 0 ? 0 : m_orderOfDay;
+        qint64 orderId = 0;
+        for (int index = 0; index < sale.lines.size(); ++index) {
+            if (index % HistoryShape::linesPerOrder == 0) {
+                orderId =
+                    tables.order(sessionId, 4000 + m_orderOfDay++, sale.openedAt, sale.closedAt);
+            }
+            const Line &sold = sale.lines.at(index);
+            const Dish &dish = m_menu.at(sold.menuIndex);
+            tables.line(orderId, sold.menuIndex + 1, dish.name, sold.quantity, dish.portion,
+                        double(dish.cents), int(dish.taxable), index % 9 == 0 ? "no onions" : "",
+                        sale.openedAt);
+        }
+        if (earned > 0) {
+            tables.points(sale.member, sessionId, earned, sale.closedAt);
+        }
+        tables.snapshot(sessionId, sale.type,
+                        sale.tableId > 0 ? 'T' + QByteArray::number(sale.tableId) : QByteArray(),
+                        sale.closedAt);
     }
 
     /// Kept ones of the past, one for twenty sessions, and tomorrow's.
@@ -230,20 +278,6 @@ private:
         }
     }
 
-    struct Line
-    {
-        int menuIndex;
-        int quantity;
-    };
-
-    /// Cents.
-    struct Bill
-    {
-        int subtotal = 0;
-        int tax = 0;
-        [[nodiscard]] int total() const { return subtotal + tax; }
-    };
-
     [[nodiscard]] Bill billOf(const QList<Line> &lines) const
     {
         Bill bill;
@@ -262,7 +296,7 @@ private:
     QDateTime m_today;
     std::mt19937 m_random{20000};
     QList<Dish> m_menu;
-    qint64 m_orderId = 0;
+    int m_orderOfDay = 0;
 };
 } // namespace
 

@@ -61,13 +61,6 @@ std::optional<QList<QList<RecordedStatement>>> recordOn(const Operation &operati
     return statements;
 }
 
-double middleOf(QList<double> values)
-{
-    const auto middle = values.begin() + values.size() / 2;
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
 bool alike(const QString &one, const QString &other)
 {
     const QByteArrayList left = PlainDatabase(one).rowCounts();
@@ -78,6 +71,13 @@ bool alike(const QString &one, const QString &other)
     return left == right;
 }
 } // namespace
+
+double median(QList<double> values)
+{
+    const auto middle = values.begin() + values.size() / 2;
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
 
 void Timing::measure(const std::function<void()> &work)
 {
@@ -92,12 +92,12 @@ void Timing::measure(const std::function<void()> &work)
 
 double Timing::median() const
 {
-    return middleOf(m_elapsed);
+    return ::median(m_elapsed);
 }
 
 double Timing::medianOfProcessor() const
 {
-    return middleOf(m_processor);
+    return ::median(m_processor);
 }
 
 std::optional<QList<QList<RecordedStatement>>> recordStatements(const Operation &operation,

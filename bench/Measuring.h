@@ -11,6 +11,9 @@
 #include <functional>
 #include <optional>
 
+/// Of a list that is not empty.
+[[nodiscard]] double median(QList<double> values);
+
 /// The times of one piece of work, round by round, in seconds.
 class Timing final
 {
