@@ -46,6 +46,8 @@ private slots:
     void aCreatedReservationIsReadBackWhole();
     void theTimeIsStoredAsLocalText();
     void anInvalidTimeStaysInvalid();
+    void aStoredTimeIsReadAsQtParsesIt_data();
+    void aStoredTimeIsReadAsQtParsesIt();
     void anUnknownReservationHasTheIdMinusOne();
     void anUpdateChangesEveryFieldAndStampsTheChange();
     void aStatusUpdateChangesTheStatusOnly();
@@ -94,6 +96,38 @@ void tst_ReservationRepository::anInvalidTimeStaysInvalid()
     QVERIFY(f.reservations.create(booking(QStringLiteral("Lee"), QString())));
 
     QVERIFY(!f.reservations.fetchById(1).reservation_datetime.isValid());
+}
+
+void tst_ReservationRepository::aStoredTimeIsReadAsQtParsesIt_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<bool>("readable");
+
+    QTest::newRow("plain") << "2026-05-06 18:30:15" << true;
+    QTest::newRow("midnight") << "2026-12-31 00:00:00" << true;
+    QTest::newRow("leap day") << "2028-02-29 23:59:59" << true;
+    QTest::newRow("no such day") << "2026-02-29 18:30:00" << false;
+    QTest::newRow("no such hour") << "2026-05-06 24:00:00" << false;
+    QTest::newRow("a letter") << "2026-05-06 18:3o:00" << false;
+    QTest::newRow("a sign") << "2026-05-06 18:+3:00" << false;
+    QTest::newRow("the T between") << "2026-05-06T18:30:00" << false;
+    QTest::newRow("no seconds") << "2026-05-06 18:30" << false;
+    QTest::newRow("something after it") << "2026-05-06 18:30:00Z" << false;
+}
+
+void tst_ReservationRepository::aStoredTimeIsReadAsQtParsesIt()
+{
+    QFETCH(QString, stored);
+    QFETCH(bool, readable);
+    Fixture f;
+    f.db.run(QStringLiteral("INSERT INTO reservations (table_id, reservation_datetime) "
+                            "VALUES (1, '%1')")
+                 .arg(stored));
+
+    const QDateTime read = f.reservations.fetchById(1).reservation_datetime;
+
+    QCOMPARE(read.isValid(), readable);
+    QCOMPARE(read, QDateTime::fromString(stored, QStringLiteral("yyyy-MM-dd HH:mm:ss")));
 }
 
 void tst_ReservationRepository::anUnknownReservationHasTheIdMinusOne()
