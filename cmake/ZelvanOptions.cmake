@@ -35,3 +35,8 @@ function(zelvan_layer name)
         target_precompile_headers(${name} REUSE_FROM zelvan_core)
     endif()
 endfunction()
+
+# Qt's own QML plugins are shared libraries: newer Qt would look for static ones, and warn of each.
+function(zelvan_finds_plugins_at_run_time target)
+    set_target_properties(${target} PROPERTIES QT_QML_MODULE_NO_IMPORT_SCAN TRUE)
+endfunction()
