@@ -221,7 +221,9 @@ ZelvanTestCase {
 
     function test_a_price_that_is_none_is_stored_as_zero_data() {
         return [
-            { tag: "abc", cents: 0 }, { tag: "-1", cents: 0 }, { tag: "12,50", cents: 1200 }, { tag: "1e3", cents: 100000 }
+            { tag: "abc", cents: 0 }, { tag: "-1", cents: 0 }, { tag: "12,50", cents: 1200 }, { tag: "1e3", cents: 100000 },
+            // As much as fits into the column.
+            { tag: "1e9", cents: 2147483647 }
         ]
     }
 
