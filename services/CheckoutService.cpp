@@ -24,6 +24,7 @@
 #include "services/AuthService.h"
 #include "services/CheckoutMaps.h"
 #include "services/MembershipService.h"
+#include "services/OrderIds.h"
 #include "services/ReceiptAssembler.h"
 #include "services/ReceiptNumber.h"
 #include "services/ReservationService.h"
@@ -39,16 +40,6 @@ namespace {
 constexpr int recentOrderLimit = 20;
 const QString statusServed = QStringLiteral("served");
 const QString keyStatus = QStringLiteral("status");
-
-QList<int> idsOf(const QList<Order> &orders)
-{
-    QList<int> ids;
-    ids.reserve(orders.size());
-    for (const Order &order : orders) {
-        ids.append(order.id);
-    }
-    return ids;
-}
 } // namespace
 
 CheckoutService::CheckoutService(

@@ -10,6 +10,7 @@
 #include "repositories/OrderRepository.h"
 #include "repositories/OrderSessionRepository.h"
 #include "repositories/TableRepository.h"
+#include "services/OrderIds.h"
 #include "services/TableNames.h"
 
 #include <QDateTime>
@@ -31,16 +32,6 @@ QVariantMap lineMap(const OrderItem &item)
         {QStringLiteral("item_status"), item.item_status},
         {QStringLiteral("notes"), item.notes},
     };
-}
-
-QList<int> idsOf(const QList<Order> &orders)
-{
-    QList<int> ids;
-    ids.reserve(orders.size());
-    for (const Order &order : orders) {
-        ids.append(order.id);
-    }
-    return ids;
 }
 } // namespace
 
