@@ -11,7 +11,7 @@ import sys
 import time
 
 from patience import wait_for
-from screen import BUTTON, Screen
+from screen import BUTTON, ROW, Screen
 from store import Database
 from tour import window_manager
 
@@ -266,6 +266,39 @@ class Starts:
         self.end(process)
         assert computer.database.read_bytes() == before
 
+    # What people have written
+
+    def names_without_an_end_are_ordered_and_paid(self):
+        screen, computer = self.screen, self.computer()
+        dish, table, category = (each + 9999 * "n" for each in "DTC")
+        self.copy_of_good(
+            computer.database,
+            f"INSERT INTO categories (id, category) VALUES (1, '{category}')",
+            f"INSERT INTO menu (item, category_id, price, is_available, is_taxable) VALUES ('{dish}', 1, 500, 1, 1)",
+            f"INSERT INTO tables (table_name, capacity, status) VALUES ('{table}', 4, 'available')",
+            "INSERT OR REPLACE INTO restaurant (id, name, address, phone_number, email, website)"
+            f" VALUES (1, '{10000 * 'R'}', 'Pier 1', '555', '', '')",
+            f"UPDATE users SET username = '{10000 * '长'}'")
+        computer.remember(path=computer.database)
+        process = self.start(computer)
+        self.log_in(10000 * "长")
+        screen.press("Take Order")
+        screen.press("Dine In")
+        screen.press("Tnnn…", roles=ROW)
+        screen.press("Cnnn…", roles=ROW)
+        screen.press("Add", within=screen.row("Dnnn…"))
+        screen.press("Place Order")
+        database = Database(computer.database)
+        database.expect("SELECT length(item_name), quantity FROM order_items", "10000|1")
+        screen.press("Checkout")
+        screen.press("#…", roles=ROW)
+        screen.says("Total: $5.00")
+        screen.press("Checkout", index=1)
+        database.expect("SELECT status FROM order_sessions", "paid")
+        database.expect("SELECT length(store_name), length(cashier_name), length(table_name) FROM receipt_snapshot",
+                        "10000|10000|10000")
+        self.end(process)
+
     # Two at once
 
     def a_second_program_starts_on_the_same_store(self):
@@ -292,8 +325,8 @@ class Starts:
         self.screen.says("Choose database location")
         self.screen.rest()
 
-    def log_in(self):
-        self.screen.type_into("Username", "alice")
+    def log_in(self, name="alice"):
+        self.screen.type_into("Username", name)
         self.screen.type_into("Password", PASSWORD)
         self.screen.press("Login")
         self.screen.wait(BUTTON, "Take Order")
@@ -315,6 +348,7 @@ class Starts:
             self.a_new_store_that_cannot_be_written_leaves_nothing_behind,
             self.a_store_that_nothing_may_be_written_beside_waits_for_better_rights,
             self.a_store_that_may_only_be_read_lets_its_people_in,
+            self.names_without_an_end_are_ordered_and_paid,
             self.a_second_program_starts_on_the_same_store,
         ]:
             begin = time.monotonic()
