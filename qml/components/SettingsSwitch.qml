@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import zelvan
 
@@ -23,11 +22,9 @@ RowLayout {
         wrapMode: PlainLabel.WordWrap
     }
 
-    Switch {
+    ThemedSwitch {
         id: control
 
         Accessible.name: caption.text
-        focusPolicy: Qt.TabFocus
-        hoverEnabled: false
     }
 }

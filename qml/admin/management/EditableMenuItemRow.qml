@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
@@ -151,7 +150,7 @@ Rectangle {
             onTextEdited: root.editedPortion = text
         }
 
-        CheckBox {
+        ThemedCheckBox {
             Layout.fillWidth: true
             Layout.maximumWidth: 100
             Layout.minimumWidth: 60
@@ -163,7 +162,7 @@ Rectangle {
             onToggled: root.editedAvailable = checked
         }
 
-        CheckBox {
+        ThemedCheckBox {
             Layout.fillWidth: true
             Layout.maximumWidth: 100
             Layout.minimumWidth: 60

@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
-import zelvan.Theme 1.0
 
 // The block that adds an item to the selected category. The texts belong to the page of the menu.
 ColumnLayout {
@@ -61,19 +59,17 @@ ColumnLayout {
             placeholderText: qsTranslate("AdminMenuManagement", "Portion (optional)")
         }
 
-        CheckBox {
+        ThemedCheckBox {
             id: availableBox
 
             checked: true
-            font.pixelSize: Theme.fontNormal
             text: qsTranslate("AdminMenuManagement", "Available")
         }
 
-        CheckBox {
+        ThemedCheckBox {
             id: taxableBox
 
             checked: true
-            font.pixelSize: Theme.fontNormal
             text: qsTranslate("AdminMenuManagement", "Taxable")
         }
     }

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
@@ -103,12 +102,11 @@ ModalFrame {
             model: printerRoot.portsModel
             reuseItems: true
 
-            delegate: RadioButton {
+            delegate: ThemedRadioButton {
                 required property var modelData
 
                 width: ListView.view.width
                 checked: printerRoot.selectedPrinter === modelData.system_name
-                font.pixelSize: Theme.fontNormal
                 text: modelData.system_name
 
                 onToggled: printerRoot.selectedPrinter = modelData.system_name
