@@ -242,6 +242,73 @@ class Starts:
             (computer.home / "Documents").chmod(0o755)
             self.expect_first_screen(computer, NEW)
 
+    # What stands in the way of a new store
+
+    def find_in_the_way(self, computer, prepare):
+        """Asks for a new store where `prepare` has put a file; answers with the file's path."""
+        path = computer.home / "Documents/ZelvanPOS/data/Zelvan.db"
+        path.parent.mkdir(parents=True)
+        prepare(path)
+        self.start(computer)
+        self.ask_for_a_new_database()
+        self.screen.press("Done")
+        self.screen.says("Database Already Exists")
+        self.screen.rest()
+        return path
+
+    def a_store_in_the_way_is_used(self):
+        screen, computer = self.screen, self.computer()
+        path = self.find_in_the_way(computer, self.copy_of_good)
+        screen.restart(lambda: screen.press("Use Existing Database"))
+        screen.wait(BUTTON, "Login")
+        screen.close()
+        assert str(path) in computer.remembers()
+
+    def another_file_in_the_way_is_not_used_but_the_program_restarts(self):
+        screen, computer = self.screen, self.computer()
+        path = self.find_in_the_way(computer, text_file)
+        before = path.read_bytes()
+        screen.restart(lambda: screen.press("Use Existing Database"))
+        screen.says(NEW)
+        screen.close()
+        computer.expect_log("[WARN] [database] Database is not a Zelvan database.")
+        assert path.read_bytes() == before
+
+    def a_store_in_the_way_is_replaced_only_for_the_word(self):
+        screen, computer = self.screen, self.computer()
+        path = self.find_in_the_way(computer, self.copy_of_good)
+        screen.press("Replace Existing Database")
+        screen.type_into('To continue, type "REPLACE" below.', "REPLACE")
+        screen.restart(lambda: screen.press("Replace Database"))
+        # A replacement has its tables and its regional row only; without the identity the next start
+        # takes it for another program's file. That is meant.
+        screen.says(UNUSABLE)
+        screen.close()
+        assert Database(path).ask("SELECT COUNT(*) FROM users") == "0"
+        assert not path.with_name("Zelvan.db.backup").exists()
+
+    def a_lost_store_is_made_anew_at_its_place(self):
+        screen, computer = self.screen, self.computer()
+        computer.remember(path=computer.database)
+        self.start(computer)
+        screen.says(MISSING)
+        screen.restart(lambda: screen.press("Create New Database Here"))
+        screen.says(NO_ADMIN)
+        screen.close()
+        assert computer.database.is_file()
+
+    def a_lost_store_that_cannot_be_made_anew_leaves_the_screen_as_it_is(self):
+        screen, computer = self.screen, self.computer()
+        computer.remember(path=computer.database)
+        make_read_only(computer.database.parent)
+        process = self.start(computer)
+        screen.says(MISSING)
+        screen.press("Create New Database Here")
+        screen.says(MISSING)
+        computer.expect_log("[ERROR] [database] Database initialization failed.")
+        self.end(process)
+        computer.database.parent.chmod(0o755)
+
     def a_store_that_nothing_may_be_written_beside_waits_for_better_rights(self):
         computer = self.computer()
         self.copy_of_good(computer.database)
@@ -346,6 +413,11 @@ class Starts:
             self.a_staged_file_that_is_no_store_any_more_is_refused,
             self.a_restore_without_a_path_waits,
             self.a_new_store_that_cannot_be_written_leaves_nothing_behind,
+            self.a_store_in_the_way_is_used,
+            self.another_file_in_the_way_is_not_used_but_the_program_restarts,
+            self.a_store_in_the_way_is_replaced_only_for_the_word,
+            self.a_lost_store_is_made_anew_at_its_place,
+            self.a_lost_store_that_cannot_be_made_anew_leaves_the_screen_as_it_is,
             self.a_store_that_nothing_may_be_written_beside_waits_for_better_rights,
             self.a_store_that_may_only_be_read_lets_its_people_in,
             self.names_without_an_end_are_ordered_and_paid,
