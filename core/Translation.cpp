@@ -25,9 +25,10 @@ bool installTranslation(QTranslator &translator, const QString &language)
         return translator.load(QLocale(language), QStringLiteral("app"), QStringLiteral("_"),
                                QStringLiteral(":/i18n"), QString());
     };
-    // The second attempt is the very same call: kept as it has always been.
-    if (!load() && !load()) {
-        return false;
+    bool loaded = load();
+    if (!loaded) {
+        // The very same call once more: kept as it has always been.
+        loaded = load();
     }
-    return QCoreApplication::installTranslator(&translator);
+    return loaded && QCoreApplication::installTranslator(&translator);
 }
