@@ -22,6 +22,8 @@ FIELD = {pyatspi.ROLE_TEXT, pyatspi.ROLE_PASSWORD_TEXT}
 LABEL = {pyatspi.ROLE_LABEL, pyatspi.ROLE_STATIC}
 RADIO = {pyatspi.ROLE_RADIO_BUTTON}
 ROW = {pyatspi.ROLE_LIST_ITEM}
+DRAWING = {pyatspi.ROLE_IMAGE}
+SPINNER = {pyatspi.ROLE_SPIN_BUTTON}
 
 
 class Screen:
@@ -214,6 +216,56 @@ class Screen:
         if is_on() != on:
             self.click(control)
         wait_for(lambda: is_on() == on, f"{label!r} to be {'on' if on else 'off'}")
+
+    def spin(self, label, value):
+        """Turns a number up or down with the arrow keys."""
+        spinner = self.wait(SPINNER, label, enabled=True)
+        self._focus(spinner)
+
+        def turned():
+            missing = value - round(spinner.queryValue().currentValue)
+            if missing:
+                self.keys("Up" if missing > 0 else "Down")
+            return not missing
+        wait_for(turned, f"{label!r} to be {value}")
+
+    def drag(self, thing, x, y):
+        """Draws something with the mouse until its corner lies at a place of the screen."""
+        left, top, width, height = self.box(thing)
+        pointer = [left + width // 2, top + height // 2]
+        self.hold(*pointer)
+
+        def arrived():
+            here = self.box(thing)
+            pointer[0] += x - here[0]
+            pointer[1] += y - here[1]
+            self.move(*pointer)
+            return here[:2] == (x, y)
+        wait_for(arrived, f"{thing.get_name()!r} to lie at {x}, {y}")
+        self.let_go()
+
+    def click_right(self, thing):
+        left, top, width, height = self.box(thing)
+        self._xdotool("mousemove", str(left + width // 2), str(top + height // 2), "click", "3")
+
+    def hold(self, x, y):
+        self._xdotool("mousemove", str(x), str(y), "mousedown", "1")
+
+    def move(self, x, y):
+        self._xdotool("mousemove", str(x), str(y))
+
+    def let_go(self):
+        self._xdotool("mouseup", "1")
+
+    @staticmethod
+    def box(thing):
+        """Left, top, width and height on the screen."""
+        box = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        return box.x, box.y, box.width, box.height
+
+    def texts(self, within=None):
+        """The labels that show, in order."""
+        return [each.get_name() for each in self.all(LABEL, "…", within)]
 
     @staticmethod
     def _xdotool(*arguments):

@@ -1,10 +1,15 @@
 # SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 # SPDX-License-Identifier: GPL-3.0-only
 """The store's database and paper, looked at from outside the program."""
+import datetime
 import pathlib
+import re
 import subprocess
 
 from patience import wait_for
+
+PASSWORD = "correct horse"
+PHONE = "5550142"
 
 
 class Database:
@@ -53,3 +58,21 @@ class Paper:
         documents = len(list(self.folder.glob("document-*.bin")))
         if documents != self.seen:
             raise AssertionError(f"{documents} documents at the printer, not {self.seen}")
+
+
+def receipt(counter):
+    return f"{datetime.date.today().year}-{counter:06}"
+
+
+def columns(text):
+    return sum(1 if ord(each) < 128 else 2 for each in text)
+
+
+def row(left, right):
+    """A line of 58 mm paper with something at both ends."""
+    return f"{left}{' ' * (32 - columns(left) - columns(right))}{right}".encode()
+
+
+def without_commands(paper):
+    """The words on the paper, without what steers the printer."""
+    return re.sub(rb"\x1b@|\x1bE.|\x1ba.|\x1bd.|\x1dV.", b"", paper, flags=re.S)

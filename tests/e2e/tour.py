@@ -1,24 +1,23 @@
 # SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 # SPDX-License-Identifier: GPL-3.0-only
-"""A store's first day, from the empty computer to the reprinted receipt. Started by `tour` beside it."""
+"""A store's first day, from the empty computer to the reprinted receipt, and the acts that follow. Started by
+`tour` beside it."""
 import contextlib
-import datetime
 import os
 import pathlib
 import re
 import subprocess
 import sys
 import time
-import xml.etree.ElementTree
 
+from act_books import Books
+from act_chinese import Chinese
+from act_floors import Floors
 from patience import wait_for
-from screen import BUTTON, CHOICE, FIELD, LABEL, RADIO, ROW, Screen
-from store import Database, Paper
+from screen import BUTTON, FIELD, LABEL, RADIO, ROW, Screen
+from store import PASSWORD, PHONE, Database, Paper, receipt, row, without_commands
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-SUPPORT = ROOT / "tests/support"
-PASSWORD = "correct horse"
-PHONE = "5550142"
+SUPPORT = pathlib.Path(__file__).resolve().parents[1] / "support"
 
 # What the log may hold beside its news.
 ANNOUNCED = (
@@ -30,20 +29,6 @@ ANNOUNCED = (
 )
 
 
-class Words:
-    """The catalogue's word for a text of a screen."""
-
-    def __init__(self, catalogue):
-        self.words = {}
-        for context in xml.etree.ElementTree.parse(catalogue).getroot().iter("context"):
-            for message in context.iter("message"):
-                key = context.findtext("name"), message.findtext("source")
-                self.words[key] = message.findtext("translation")
-
-    def of(self, context, source):
-        return self.words[context, source]
-
-
 class Tour:
     def __init__(self, program, pictures, work):
         self.work = pathlib.Path(work)
@@ -52,7 +37,6 @@ class Tour:
         self.folder = self.work / "home/Documents/ZelvanPOS/data"
         self.database = Database(self.folder / "Zelvan.db")
         self.paper = Paper(self.work / "paper")
-        self.words = Words(ROOT / "i18n/app_zh_CN.ts")
 
     # The first run
 
@@ -424,45 +408,11 @@ class Tour:
 
     # The file
 
-    def the_admin_reads_the_day(self):
+    def the_database_is_backed_up(self):
         screen = self.log_in("alice")
         screen.press("Login")
-        screen.wait(BUTTON, "Analytics")
+        screen.wait(BUTTON, "Take Order")
         screen.rest()
-        screen.press("Analytics")
-        for sql in ("sum(total) / 100.0", "avg(total) / 100.0"):
-            screen.says(f"${float(self.database.ask(f'SELECT {sql} FROM order_sessions')):.2f}")
-        screen.says(self.database.ask("SELECT sum(quantity) FROM order_items"))
-        top = self.database.ask("SELECT item_name FROM order_items GROUP BY item_name"
-                                " ORDER BY sum(quantity) DESC LIMIT 1")
-        screen.says(f"1. {top}")
-        screen.picture("dashboard")
-
-    def the_tax_report_agrees_with_the_file(self):
-        screen = self.screen
-        screen.press("Tax Reports")
-        screen.says("Tax Report")
-        for column in ("subtotal", "tax", "discount", "total"):
-            cents = self.database.ask(f"SELECT sum({column}) FROM order_sessions WHERE status = 'paid'")
-            screen.says(f"${float(cents) / 100:.2f}")
-        screen.says("Sales Tax")
-        for counter in (0, 1):
-            screen.says(receipt(counter))
-        screen.picture("tax-report")
-
-    def a_member_has_a_history(self):
-        screen = self.screen
-        screen.press("Management")
-        screen.press("Members")
-        screen.press(PHONE, roles=ROW)
-        screen.says(f"Member Phone: {PHONE}")
-        screen.says("Points: 7")
-        screen.says("Status: active")
-        screen.picture("member-history")
-        screen.keys("Escape")
-
-    def the_database_is_backed_up(self):
-        screen = self.screen
         self.open_settings("Database")
         screen.says("Database Settings")
         screen.press("Backup Database")
@@ -490,56 +440,6 @@ class Tour:
         screen.wait(BUTTON, "Login")
         self.database.expect("SELECT count(*) FROM tables WHERE table_name = 'Z9'", "0")
         self.database.expect("SELECT count(*) FROM order_sessions WHERE status = 'paid'", "2")
-
-    # In Chinese
-
-    def the_store_turns_chinese(self):
-        screen = self.log_in("alice")
-        screen.press("Login")
-        screen.wait(BUTTON, "Settings")
-        screen.rest()
-        self.open_settings("Region & Formats")
-        screen.choose("App Language", "中文 (简体)")
-        screen.choose("Currency", "¥ (CNY)")
-        screen.press("Save")
-        self.database.expect("SELECT locale, currency_code FROM regional_settings", "zh_CN|CNY")
-
-    def a_takeaway_is_sold_in_chinese(self):
-        screen, words = self.screen, self.words
-        screen.close()
-        screen.start(self.output)
-        screen.type_into(words.of("Login", "Username"), "wendy")
-        screen.type_into(words.of("Login", "Password"), PASSWORD)
-        screen.picture("chinese-login")
-        screen.press(words.of("Login", "Login"))
-        screen.wait(BUTTON, words.of("OrderTakingSimple", "Takeaway"))
-        screen.rest()
-        screen.press(words.of("OrderTakingSimple", "Takeaway"))
-        screen.press("Lunch", roles=ROW)
-        screen.press(words.of("OrderTakingSimple", "Add"), within=screen.row("牛肉面"))
-        screen.says("¥12.80")
-        screen.picture("chinese-order")
-        screen.press(words.of("OrderTakingSimple", "Place Order"))
-        self.database.expect("SELECT order_type, status, total FROM order_sessions WHERE id = 3",
-                             "takeaway|open|1385")
-        plain = without_commands(self.paper.next()).decode()
-        assert words.of("QObject", "Takeaway") in plain, plain
-        screen.press(words.of("ServiceStaffSidebar", "Checkout"))
-        screen.press(f"#{self.display_number(3)}", roles=ROW)
-        screen.says(words.of("Checkout", "Total: ") + "¥13.85")
-        screen.picture("chinese-checkout")
-        screen.press(words.of("Checkout", "Checkout"), index=1)
-        self.database.expect("SELECT status, receipt_number FROM order_sessions WHERE id = 3",
-                             f"paid|{receipt(2)}")
-        plain = without_commands(self.paper.next()).decode()
-        for line in (words.of("QObject", "Receipt #: %1").replace("%1", receipt(2)),
-                     words.of("QObject", "Total: %1").replace("%1", "13.85"),
-                     words.of("QObject", "Thank you!")):
-            assert line in plain, (line, plain)
-        screen.press(words.of("ServiceStaffSidebar", "Kitchen"))
-        screen.says(words.of("KitchenOrders", "PREPARING"))
-        screen.picture("chinese-kitchen")
-        screen.close()
 
     def the_log_holds_no_surprise(self):
         logs = sorted((self.work / "data/Zelvan/ZelvanPOS/logs").glob("*.log"))
@@ -584,13 +484,11 @@ class Tour:
             self.the_receipt_comes_out,
             self.the_receipt_is_printed_again,
             self.the_second_bill_redeems_the_points,
-            self.the_admin_reads_the_day,
-            self.the_tax_report_agrees_with_the_file,
-            self.a_member_has_a_history,
             self.the_database_is_backed_up,
             self.what_came_after_the_backup_is_gone_after_its_restore,
-            self.the_store_turns_chinese,
-            self.a_takeaway_is_sold_in_chinese,
+            *Floors(self).steps(),
+            *Books(self).steps(),
+            *Chinese(self).steps(),
             self.the_log_holds_no_surprise,
         ]
         for step in steps:
@@ -598,24 +496,6 @@ class Tour:
             print(f"{step.__name__.replace('_', ' ')} ", end="", flush=True)
             step()
             print(f"({time.monotonic() - begin:.1f} s)", flush=True)
-
-
-def receipt(counter):
-    return f"{datetime.date.today().year}-{counter:06}"
-
-
-def columns(text):
-    return sum(1 if ord(each) < 128 else 2 for each in text)
-
-
-def row(left, right):
-    """A line of 58 mm paper with something at both ends."""
-    return f"{left}{' ' * (32 - columns(left) - columns(right))}{right}".encode()
-
-
-def without_commands(paper):
-    """The words on the paper, without what steers the printer."""
-    return re.sub(rb"\x1b@|\x1bE.|\x1ba.|\x1bd.|\x1dV.", b"", paper, flags=re.S)
 
 
 @contextlib.contextmanager
