@@ -55,6 +55,17 @@ void UserModel::reload()
     beginResetModel();
     publish(new Rows(m_users->fetchAll()));
     endResetModel();
+    // Newer views follow a reset only from its first signal to its last, and a queued first one
+    // comes after the last one was sent: the GUI thread says it once more.
+    if (QThread::currentThread() != thread()) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                beginResetModel();
+                endResetModel();
+            },
+            Qt::QueuedConnection);
+    }
 }
 
 void UserModel::deactivateUser(int userId)

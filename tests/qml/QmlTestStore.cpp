@@ -7,9 +7,11 @@
 #include "support/TestDatabase.h"
 
 #include <QDirIterator>
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
+#include <QTest>
 
 QmlTestStore::QmlTestStore(TestDatabase &file, Services &services, RecordingSpooler &spooler,
                            QObject *parent)
@@ -72,6 +74,11 @@ QString QmlTestStore::lastPrintedDocument() const
 {
     const QList<RecordingSpooler::Document> documents = m_spooler.documents();
     return documents.isEmpty() ? QString() : QString::fromLatin1(documents.constLast().bytes);
+}
+
+void QmlTestStore::expectCritical(const QString &pattern) const
+{
+    QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(pattern));
 }
 
 QStringList QmlTestStore::documents() const

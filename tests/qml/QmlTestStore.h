@@ -36,6 +36,9 @@ public:
     /// The bytes of the last job as Latin-1 text.
     Q_INVOKABLE [[nodiscard]] QString lastPrintedDocument() const;
 
+    /// Announces a line of the level "critical", as ignoreWarning() does one of "warning".
+    Q_INVOKABLE void expectCritical(const QString &pattern) const;
+
     /// Every document of the screens, as the resource's path.
     Q_INVOKABLE [[nodiscard]] QStringList documents() const;
 

@@ -13,7 +13,7 @@ ZelvanTestCase {
     property alias stack: stackView
     property alias maximizedTimes: appWindow.maximizedTimes
 
-    function screen(path: string, properties: var) {
+    function screen(path: string, properties: var): var {
         appWindow.maximizedTimes = 0
         stackView.clear(StackView.Immediate)
         page = stackView.push("qrc:/qt/qml/zelvan/qml/" + path + ".qml", properties || {}, StackView.Immediate)

@@ -53,7 +53,7 @@ TestCase {
     }
 
     // Makes the page at the given path and gives it the whole window.
-    function show(path: string, properties: var) {
+    function show(path: string, properties: var): var {
         page = create(path, properties)
         page.width = width
         page.height = height
@@ -111,7 +111,7 @@ TestCase {
     }
 
     // Among several buttons of one text, the index says which.
-    function button(text: string, index: var) {
+    function button(text: string, index: var): var {
         const found = allShown(item => isButton(item) && item.text === text)
         verify(found.length > (index || 0), "a button " + text)
         return found[index || 0]
@@ -137,11 +137,11 @@ TestCase {
     }
 
     // A row of a list, by what a screen reader calls it.
-    function row(name: string) {
+    function row(name: string): var {
         return theShown(item => item.Accessible.role === Accessible.ListItem && item.Accessible.name === name, "a row " + name)
     }
 
-    function field(label: string) {
+    function field(label: string): var {
         return theShown(item => item.cursorPosition !== undefined && item.Accessible.name === label, "a field " + label)
     }
 

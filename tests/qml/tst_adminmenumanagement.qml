@@ -23,7 +23,7 @@ ZelvanTestCase {
         return TestDb.rows("SELECT item, price, portion_size, is_available, is_taxable FROM menu ORDER BY id")
     }
 
-    function categoryRow(category: string) {
+    function categoryRow(category: string): var {
         return row(category)
     }
 

@@ -11,7 +11,7 @@ ZelvanTestCase {
         return TestDb.rows("SELECT system_name, role, paper_width, cut_mode FROM printers ORDER BY id")
     }
 
-    function choice(label: string) {
+    function choice(label: string): var {
         return theShown(item => item.indexOfValue !== undefined && item.Accessible.name === label, "a choice " + label)
     }
 

@@ -11,7 +11,7 @@ ZelvanTestCase {
         return TestDb.rows("SELECT table_name, capacity FROM tables ORDER BY id")
     }
 
-    function spinBox(index: int) {
+    function spinBox(index: int): var {
         return allShown(item => item.valueModified !== undefined && item.stepSize !== undefined && item.from !== undefined && item.to > 1)[index]
     }
 

@@ -89,7 +89,7 @@ ZelvanTestCase {
         compare(iso(page.fromDate), iso(new Date()))
     }
 
-    function theField(label: string) {
+    function theField(label: string): var {
         return field(label)
     }
 

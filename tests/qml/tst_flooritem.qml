@@ -9,7 +9,7 @@ ZelvanTestCase {
 
     name: "FloorItem"
 
-    function make(properties: var) {
+    function make(properties: var): var {
         page = create("components/FloorItem", Object.assign({ x: 300, y: 300 }, properties))
         waitForRendering(page)
         return page

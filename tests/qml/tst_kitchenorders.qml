@@ -153,6 +153,7 @@ ZelvanTestCase {
     function test_an_update_of_a_ready_order_leaves_it_ready_with_pending_lines() {
         const id = order("takeaway", {})
         KitchenOrderService.markState(id, "ready")
+        TestDb.expectCritical("updateOrder commit failed")
         OrderService.updateOrder(id, "takeaway", [{ menuItemId: soup, qty: 3, notes: "" }], {})
 
         show("common/KitchenOrders")

@@ -124,6 +124,7 @@ ZelvanTestCase {
         push({ tableId: 999 })
         press("Add", 0)
         ignoreWarning(/Failed to create order session:/)
+        TestDb.expectCritical("OrderSession creation failed, aborting order creation")
 
         press("Place Order")
 
@@ -146,6 +147,7 @@ ZelvanTestCase {
         push({ orderType: "takeaway", currentOrderId: id })
         press("Add", 1)
         verify(!hasButton("Place Order"))
+        TestDb.expectCritical("updateOrder commit failed")
 
         press("Update Order")
 

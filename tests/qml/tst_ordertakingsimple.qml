@@ -206,6 +206,7 @@ ZelvanTestCase {
         compare(page.totalItems, 2)
         compare(field("Add a remark").text, "")
         press("+")
+        TestDb.expectCritical("updateOrder commit failed")
         press("Edit Order", 1)
 
         compare(lines(), [{ item_name: "Soup", quantity: 3, notes: "hot" }])
@@ -217,6 +218,7 @@ ZelvanTestCase {
         OrderService.createOrder("dine_in", [{ menuItemId: soup, qty: 1, notes: "" }], { tableId: windowTable })
         show("common/OrderTakingSimple")
         click(openEditList()[0])
+        TestDb.expectCritical("updateOrder commit failed")
 
         press("Takeaway")
         press("Edit Order", 1)

@@ -8,7 +8,7 @@ import ZelvanTest 1.0
 ZelvanTestCase {
     name: "SettingsPages"
 
-    function choice(label: string) {
+    function choice(label: string): var {
         return theShown(item => item.indexOfValue !== undefined && item.Accessible.name === label, "a choice " + label)
     }
 
@@ -16,7 +16,7 @@ ZelvanTestCase {
         return allShown(item => item.indexOfValue !== undefined && item.Accessible.name === label).length === 1
     }
 
-    function toggle(label: string) {
+    function toggle(label: string): var {
         return theShown(item => isButton(item) && item.Accessible.name === label, "a switch " + label)
     }
 

@@ -63,6 +63,8 @@ ScreenTestCase {
     // The last of this program: the failure takes the connection with it.
     function test_z_after_a_failure_the_screen_stays_busy_until_the_program_is_closed() {
         ignoreWarning(/connection 'main_connection' is still in use/)
+        TestDb.expectCritical("Cannot open database:")
+        TestDb.expectCritical("Database initialization failed\\.")
         screen("setup/SetupDBCreation")
         page.selectedPath = AppService.databasePath()
 
