@@ -50,6 +50,9 @@ RowLayout {
         Layout.preferredWidth: 70
         text: root.price
         color: root.textColor
+        // A long currency symbol makes the figures smaller before it cuts them off.
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 8
         elide: Text.ElideRight
     }
 

@@ -66,6 +66,17 @@ ZelvanTestCase {
         verify(!shows("Window 7"))
     }
 
+    function test_a_long_currency_symbol_cuts_no_price_off() {
+        verify(SettingService.saveRegionalSettings({ id: 1, locale: "en_US", currency_code: "MYR" }))
+        addItem("Feast", food, 129.5)
+        push({})
+
+        const price = theShown(item => item.text === "RM129.50" && item.truncated !== undefined, "the price")
+
+        compare(price.width, 70)
+        verify(!price.truncated)
+    }
+
     function test_it_fills_the_page_of_the_stack() {
         push({})
 
