@@ -55,14 +55,14 @@ void UserModel::reload()
     beginResetModel();
     publish(new Rows(m_users->fetchAll()));
     endResetModel();
-    // Newer views follow a reset only from its first signal to its last, and a queued first one
-    // comes after the last one was sent: the GUI thread says it once more.
+    // Newer views follow a reset from its first signal to its last, and a queued first one comes
+    // after the last one was sent. A changed layout makes them read the rows, on their own thread.
     if (QThread::currentThread() != thread()) {
         QMetaObject::invokeMethod(
             this,
             [this] {
-                beginResetModel();
-                endResetModel();
+                emit layoutAboutToBeChanged();
+                emit layoutChanged();
             },
             Qt::QueuedConnection);
     }

@@ -26,6 +26,8 @@ ANNOUNCED = (
     r"Driver not loaded",
     # The cashier's page forgets a paid session, and its handler looks at it once more.
     r"Checkout\.qml:\d+: TypeError",
+    # Newer Qt is asked for more by the bus than it has.
+    r"\[qt\.accessibility\.atspi\] .*GetApplicationBusAddress",
 )
 
 
@@ -250,7 +252,7 @@ class Tour:
         screen = self.screen
         screen.press("Lunch", roles=ROW)
         # What is not available stays out: the lines stored below are all there are.
-        screen.press("Add", within=screen.row("Truffle pasta"))
+        screen.click(screen.wait(BUTTON, "Add", within=screen.row("Truffle pasta")))
         screen.press("Dine In")
         screen.press("A1", roles=ROW)
         self.pick("Espresso", times=2)
