@@ -12,6 +12,8 @@ Button {
     property color restColor: Theme.background
     property int radius: 0
 
+    // The text as it stands: newer Qt would take its "&" for a mark and leave it out.
+    Accessible.name: text
     focusPolicy: Qt.NoFocus
     font.bold: selected
     font.pixelSize: Theme.fontNormal

@@ -457,9 +457,9 @@ class Tour:
         folders = path.relative_to(self.work / "home").parts[:-1]
         for folder in folders:
             screen.rest()
-            screen.click(screen.wait(LABEL, folder), times=2)
+            screen.click(screen.wait(LABEL | ROW, folder), times=2)
         screen.rest()
-        screen.click(screen.wait(LABEL, path.name))
+        screen.click(screen.wait(LABEL | ROW, path.name))
         screen.press("Open")
 
     # The whole
