@@ -246,7 +246,9 @@ int OrderService::joinOrOpenTableSession(int tableId)
 {
     const int openId = m_sessions->findOpenDineInSession(tableId);
     if (openId >= 1) {
-        return openId;
+        // Joined as it stands: its number stays, and its table's status is not touched.
+        const std::optional<OrderSession> session = m_sessions->getSessionById(openId);
+        return session ? session->id : openId;
     }
     const int sessionId = openSession(dineIn, tableId);
     // Before the check, and not undone after it: a table whose session failed stays occupied.
