@@ -503,13 +503,16 @@ class Tour:
 
 @contextlib.contextmanager
 def window_manager():
-    manager = subprocess.Popen(["openbox"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                               stderr=subprocess.DEVNULL)
+    manager = subprocess.Popen(["openbox"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+
+    def manages():
+        assert manager.poll() is None, f"the window manager ended with {manager.returncode}"
+        return "window id" in subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True,
+                                             text=True, timeout=20, check=True).stdout
+
     try:
         # A window that is there first is unmapped and mapped again when the manager takes it over.
-        wait_for(lambda: "window id" in subprocess.run(
-            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True, timeout=20,
-            check=True).stdout, "the window manager")
+        wait_for(manages, "the window manager")
         yield
     finally:
         manager.terminate()
