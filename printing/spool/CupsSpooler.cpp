@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "printing/spool/CupsSpooler.h"
 
-#include <QString>
+#include "printing/spool/CupsLibrary.h"
 
-#include <cups/cups.h>
+#include <QString>
 
 #include <chrono>
 #include <string_view>
@@ -40,17 +40,18 @@ bool isSuccess(ipp_status_t status)
 }
 
 /// The queues of an answer, in its order; an attribute group is one queue.
-std::vector<RawSpooler::PrinterInfo> destinations(ipp_t *response)
+std::vector<RawSpooler::PrinterInfo> destinations(const CupsLibrary &cups, ipp_t *response)
 {
     std::vector<RawSpooler::PrinterInfo> found;
     RawSpooler::PrinterInfo queue;
-    for (ipp_attribute_t *each = ippFirstAttribute(response); each;
-         each = ippNextAttribute(response)) {
-        const std::string_view name = ippGetName(each) ? ippGetName(each) : "";
+    for (ipp_attribute_t *each = cups.ippFirstAttribute(response); each;
+         each = cups.ippNextAttribute(response)) {
+        const char *const known = cups.ippGetName(each);
+        const std::string_view name = known ? known : "";
         if (name == "printer-name") {
-            queue.printerName = utf16(ippGetString(each, 0, nullptr));
+            queue.printerName = utf16(cups.ippGetString(each, 0, nullptr));
         } else if (name == "device-uri") {
-            queue.portName = utf16(ippGetString(each, 0, nullptr));
+            queue.portName = utf16(cups.ippGetString(each, 0, nullptr));
         } else if (name.empty() && !queue.printerName.empty()) {
             found.push_back(std::exchange(queue, {}));
         }
@@ -60,16 +61,6 @@ std::vector<RawSpooler::PrinterInfo> destinations(ipp_t *response)
     }
     return found;
 }
-
-/// Why CUPS refused: never a code of success, nor one left over from an earlier exchange.
-std::uint32_t refusal(bool alive)
-{
-    const ipp_status_t status = cupsLastError();
-    if (!alive) {
-        return IPP_STATUS_ERROR_SERVICE_UNAVAILABLE;
-    }
-    return static_cast<std::uint32_t>(isSuccess(status) ? IPP_STATUS_ERROR_INTERNAL : status);
-}
 } // namespace
 
 /// A connection that is given up when the server has shown no sign of life for as long as patience
@@ -77,30 +68,54 @@ std::uint32_t refusal(bool alive)
 class CupsSpooler::Connection final
 {
 public:
-    Connection()
-        : m_http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                              static_cast<int>(patience.count()), nullptr))
+    /// Without the library it is one to a server that does not run.
+    explicit Connection(const CupsLibrary *cups)
+        : m_cups(cups)
     {
+        if (!m_cups) {
+            return;
+        }
+        m_cups->cupsSetPasswordCB2(noPassword, nullptr);
+        m_http = m_cups->httpConnect2(m_cups->cupsServer(), m_cups->ippPort(), nullptr, AF_UNSPEC,
+                                      m_cups->cupsEncryption(), 1,
+                                      static_cast<int>(patience.count()), nullptr);
         if (m_http) {
-            httpSetTimeout(m_http, secondsBetweenLooks, &Connection::keepsWaiting, this);
+            m_cups->httpSetTimeout(m_http, secondsBetweenLooks, &Connection::keepsWaiting, this);
         }
     }
-    ~Connection() { httpClose(m_http); }
+    ~Connection()
+    {
+        if (m_http) {
+            m_cups->httpClose(m_http);
+        }
+    }
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
 
+    /// Both may be used while it is alive.
+    [[nodiscard]] const CupsLibrary &cups() const { return *m_cups; }
     [[nodiscard]] http_t *http() const { return m_http; }
     [[nodiscard]] bool alive() const { return m_http && Clock::now() < m_deadline; }
 
     /// Passes the outcome of an exchange on; any answer in time is a sign of life.
     bool answered(bool succeeded)
     {
-        if (!succeeded && httpError(m_http) != 0) {
+        if (!succeeded && m_cups->httpError(m_http) != 0) {
             m_deadline = Clock::now();
         } else if (alive()) {
             m_deadline = Clock::now() + patience;
         }
         return succeeded;
+    }
+
+    /// Why CUPS refused: never a code of success, nor one left over from an earlier exchange.
+    [[nodiscard]] std::uint32_t refusal() const
+    {
+        if (!alive()) {
+            return IPP_STATUS_ERROR_SERVICE_UNAVAILABLE;
+        }
+        const ipp_status_t status = m_cups->cupsLastError();
+        return static_cast<std::uint32_t>(isSuccess(status) ? IPP_STATUS_ERROR_INTERNAL : status);
     }
 
 private:
@@ -109,16 +124,18 @@ private:
         return Clock::now() < static_cast<Connection *>(self)->m_deadline ? 1 : 0;
     }
 
+    const CupsLibrary *m_cups;
     Clock::time_point m_deadline = Clock::now() + patience;
-    http_t *m_http;
+    http_t *m_http = nullptr;
 };
 
 /// What an open handle stands for: a queue that exists, and at most one job on it.
 class CupsSpooler::Document final
 {
 public:
-    explicit Document(std::string queue)
+    Document(const CupsLibrary *cups, std::string queue)
         : m_queue(std::move(queue))
+        , m_connection(cups)
     {}
 
     /// A question to the server, because a queue is otherwise not looked at before the job.
@@ -127,11 +144,12 @@ public:
         if (!m_connection.alive()) {
             return false;
         }
+        const CupsLibrary &cups = m_connection.cups();
         ipp_t *request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
-        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-                     "printer-name");
-        ippDelete(cupsDoRequest(m_connection.http(), request, "/"));
-        return m_connection.answered(isSuccess(cupsLastError()));
+        cups.ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                          nullptr, "printer-name");
+        cups.ippDelete(cups.cupsDoRequest(m_connection.http(), request, "/"));
+        return m_connection.answered(isSuccess(cups.cupsLastError()));
     }
 
     std::uint32_t start(const char *title)
@@ -139,13 +157,13 @@ public:
         if (!m_connection.alive()) {
             return 0;
         }
-        http_t *http = m_connection.http();
         m_job = createJob(title);
         if (!m_connection.answered(m_job > 0)) {
             return 0;
         }
-        m_started = cupsStartDocument(http, m_queue.c_str(), m_job, title, CUPS_FORMAT_RAW, 1) ==
-                    HTTP_STATUS_CONTINUE;
+        m_started = m_connection.cups().cupsStartDocument(m_connection.http(), m_queue.c_str(),
+                                                          m_job, title, CUPS_FORMAT_RAW,
+                                                          1) == HTTP_STATUS_CONTINUE;
         return m_connection.answered(m_started) ? static_cast<std::uint32_t>(m_job) : 0;
     }
 
@@ -153,8 +171,8 @@ public:
     void cancel()
     {
         if (m_job > 0 && m_connection.alive()) {
-            m_connection.answered(
-                isSuccess(cupsCancelJob2(m_connection.http(), m_queue.c_str(), m_job, 0)));
+            m_connection.answered(isSuccess(m_connection.cups().cupsCancelJob2(
+                m_connection.http(), m_queue.c_str(), m_job, 0)));
         }
     }
 
@@ -168,10 +186,10 @@ public:
         if (!started()) {
             return false;
         }
-        http_t *http = m_connection.http();
         // Nothing is written for no bytes: an empty chunk would end the request.
         const bool sent =
-            count == 0 || cupsWriteRequestData(http, bytes, count) == HTTP_STATUS_CONTINUE;
+            count == 0 || m_connection.cups().cupsWriteRequestData(m_connection.http(), bytes,
+                                                                   count) == HTTP_STATUS_CONTINUE;
         return m_connection.answered(sent) && finish();
     }
 
@@ -182,22 +200,25 @@ public:
             return !m_started;
         }
         m_started = false;
+        const CupsLibrary &cups = m_connection.cups();
         http_t *http = m_connection.http();
-        const ipp_status_t status = cupsFinishDocument(http, m_queue.c_str());
+        const ipp_status_t status = cups.cupsFinishDocument(http, m_queue.c_str());
         // The status alone is still that of the last exchange when no answer came to this one.
-        return m_connection.answered(isSuccess(status) && httpGetStatus(http) == HTTP_STATUS_OK);
+        return m_connection.answered(isSuccess(status) &&
+                                     cups.httpGetStatus(http) == HTTP_STATUS_OK);
     }
 
 private:
     [[nodiscard]] ipp_t *newRequest(ipp_op_t operation) const
     {
+        const CupsLibrary &cups = m_connection.cups();
         char uri[HTTP_MAX_URI];
-        httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof(uri), "ipp", nullptr, "localhost", 0,
-                         "/printers/%s", m_queue.c_str());
-        ipp_t *request = ippNewRequest(operation);
-        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
-        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                     cupsUser());
+        cups.httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof(uri), "ipp", nullptr, "localhost", 0,
+                              "/printers/%s", m_queue.c_str());
+        ipp_t *request = cups.ippNewRequest(operation);
+        cups.ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+        cups.ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                          cups.cupsUser());
         return request;
     }
 
@@ -205,13 +226,14 @@ private:
     /// on a connection of its own when the server has just fallen silent. 0 on failure.
     [[nodiscard]] int createJob(const char *title) const
     {
+        const CupsLibrary &cups = m_connection.cups();
         ipp_t *request = newRequest(IPP_OP_CREATE_JOB);
-        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, title);
+        cups.ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, title);
         const std::string resource = "/printers/" + m_queue;
-        ipp_t *response = cupsDoRequest(m_connection.http(), request, resource.c_str());
-        ipp_attribute_t *id = ippFindAttribute(response, "job-id", IPP_TAG_INTEGER);
-        const int job = isSuccess(cupsLastError()) && id ? ippGetInteger(id, 0) : 0;
-        ippDelete(response);
+        ipp_t *response = cups.cupsDoRequest(m_connection.http(), request, resource.c_str());
+        ipp_attribute_t *id = cups.ippFindAttribute(response, "job-id", IPP_TAG_INTEGER);
+        const int job = isSuccess(cups.cupsLastError()) && id ? cups.ippGetInteger(id, 0) : 0;
+        cups.ippDelete(response);
         return job;
     }
 
@@ -221,16 +243,15 @@ private:
     bool m_started = false;
 };
 
-CupsSpooler::CupsSpooler()
-{
-    cupsSetPasswordCB2(noPassword, nullptr);
-}
+CupsSpooler::CupsSpooler(QString library)
+    : m_library(std::move(library))
+{}
 
 CupsSpooler::~CupsSpooler() = default;
 
 bool CupsSpooler::openPrinter(const std::u16string &printerName, Handle &handle)
 {
-    auto opened = std::make_unique<Document>(utf8(printerName));
+    auto opened = std::make_unique<Document>(cups(), utf8(printerName));
     if (!noted(opened->queueExists(), opened->connection())) {
         return false;
     }
@@ -307,25 +328,34 @@ CupsSpooler::Document *CupsSpooler::document(Handle handle) const
     return found == m_documents.end() ? nullptr : found->second.get();
 }
 
+/// Tried again as long as it is missing: somebody may install it under the running till.
+const CupsLibrary *CupsSpooler::cups()
+{
+    if (!m_cups) {
+        m_cups = CupsLibrary::load(m_library);
+    }
+    return m_cups.get();
+}
+
 /// One request for all queues: the ready-made call of CUPS makes several, each with a wait of its
 /// own, and goes looking on the network for printers that have no queue to print to.
 bool CupsSpooler::listDestinations()
 {
     m_destinations.clear();
-    Connection connection;
+    Connection connection(cups());
     if (!noted(connection.alive(), connection)) {
         return false;
     }
     static const char *const attributes[] = {"printer-name", "device-uri"};
-    ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
-    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", 2, nullptr,
-                  attributes);
-    ipp_t *response = cupsDoRequest(connection.http(), request, "/");
+    ipp_t *request = m_cups->ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
+    m_cups->ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", 2,
+                          nullptr, attributes);
+    ipp_t *response = m_cups->cupsDoRequest(connection.http(), request, "/");
     // Without any queue the server says "not found".
-    const ipp_status_t status = cupsLastError();
+    const ipp_status_t status = m_cups->cupsLastError();
     const bool answered = isSuccess(status) || status == IPP_STATUS_ERROR_NOT_FOUND;
-    m_destinations = destinations(response);
-    ippDelete(response);
+    m_destinations = destinations(*m_cups, response);
+    m_cups->ippDelete(response);
     return noted(connection.answered(answered), connection);
 }
 
@@ -333,7 +363,7 @@ bool CupsSpooler::listDestinations()
 bool CupsSpooler::noted(bool succeeded, const Connection &connection)
 {
     if (!succeeded) {
-        m_lastError = refusal(connection.alive());
+        m_lastError = connection.refusal();
     }
     return succeeded;
 }

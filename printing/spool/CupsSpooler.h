@@ -4,8 +4,12 @@
 
 #include "printing/spool/RawSpooler.h"
 
+#include <QString>
+
 #include <map>
 #include <memory>
+
+struct CupsLibrary;
 
 /// CUPS behind the Windows calls: an open printer is a connection to the server, a document is one
 /// raw job. Error codes are IPP status codes. A server that gives no sign of life for two seconds
@@ -13,7 +17,9 @@
 class CupsSpooler final : public RawSpooler
 {
 public:
-    CupsSpooler();
+    /// The library is looked for when it is first needed; without it every printer is refused like
+    /// one of a server that does not run.
+    explicit CupsSpooler(QString library = QStringLiteral("cups"));
     ~CupsSpooler() override;
 
     bool openPrinter(const std::u16string &printerName, Handle &handle) override;
@@ -34,10 +40,13 @@ private:
     class Connection;
     class Document;
 
+    [[nodiscard]] const CupsLibrary *cups();
     [[nodiscard]] Document *document(Handle handle) const;
     bool listDestinations();
     bool noted(bool succeeded, const Connection &connection);
 
+    QString m_library;
+    std::unique_ptr<const CupsLibrary> m_cups;
     std::map<Handle, std::unique_ptr<Document>> m_documents;
     Handle m_lastHandle = 0;
     std::vector<PrinterInfo> m_destinations;

@@ -53,6 +53,7 @@ private slots:
     void aQueueThatDoesNotExistIsRefusedAtTheOpen();
     void aQueueThatRejectsJobsIsRefusedAtTheStart();
     void aServerThatDoesNotRunIsAnError();
+    void withoutTheLibraryEveryPrinterIsRefused();
     void aServerThatNeverAnswersIsAnErrorInTwoSeconds();
     void aServerLostMidWayIsAnErrorThatCostsOneWait_data();
     void aServerLostMidWayIsAnErrorThatCostsOneWait();
@@ -206,6 +207,24 @@ void tst_CupsSpooler::aServerThatDoesNotRunIsAnError()
     QVERIFY(!spooler.enumPrinters(needed, needed, printers));
     QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
     QVERIFY(clock.elapsed() < promisedMs);
+}
+
+void tst_CupsSpooler::withoutTheLibraryEveryPrinterIsRefused()
+{
+    CupsSpooler spooler(QStringLiteral("zelvan-no-such-library"));
+    expectLog(QtWarningMsg, "CUPS cannot be loaded:");
+    expectLog(QtWarningMsg, "CUPS cannot be loaded:");
+
+    RawSpooler::Handle handle = 0;
+    QVERIFY(!spooler.openPrinter(u"TM88", handle));
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+
+    std::uint32_t needed = 0;
+    std::vector<RawSpooler::PrinterInfo> printers;
+    QVERIFY(!spooler.enumPrinters(0, needed, printers));
+    QVERIFY(needed != 0);
+    QVERIFY(!spooler.enumPrinters(needed, needed, printers));
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
 }
 
 void tst_CupsSpooler::aServerThatNeverAnswersIsAnErrorInTwoSeconds()
