@@ -9,13 +9,19 @@ ComboBox {
     id: control
 
     property string label
+    // The last one given to `selectValue`, on offer or not.
+    property var givenValue
+    // What to store: a given value without an entry is kept until an entry is chosen instead.
+    readonly property var chosenValue: currentIndex < 0 ? givenValue : currentValue
 
-    // An unknown value leaves nothing selected. `currentValue` itself cannot be written before Qt 6.10.
+    // An unknown value leaves no entry selected. `currentValue` itself cannot be written before Qt 6.10.
     function selectValue(value: var): void {
+        givenValue = value
         currentIndex = indexOfValue(value)
     }
 
     Accessible.name: label
+    displayText: currentIndex < 0 ? givenValue ?? "" : currentText
     font.pixelSize: Theme.fontNormal
     implicitHeight: 40
     textRole: "text"

@@ -251,6 +251,38 @@ ZelvanTestCase {
         compare([choice("App Language").currentValue, choice("Currency").currentValue], data.shown)
     }
 
+    function test_a_stored_value_that_is_not_on_offer_is_shown_and_kept_data() {
+        return [
+            { tag: "language", page: "AdminRegionalSettings", table: "regional_settings", stored: "locale = 'ms_MY'", label: "App Language", shown: "ms_MY" },
+            { tag: "currency", page: "AdminRegionalSettings", table: "regional_settings", stored: "currency_code = 'GBP'", label: "Currency", shown: "GBP" },
+            { tag: "kitchen", page: "AdminKitchenSettings", table: "kitchen_settings", stored: "mode = 'pager'", label: "Kitchen Mode", shown: "pager" },
+            { tag: "tables", page: "AdminTableSettings", table: "table_settings", stored: "layout_mode = 'list'", label: "Layout Mode", shown: "list" }
+        ]
+    }
+
+    function test_a_stored_value_that_is_not_on_offer_is_shown_and_kept(data) {
+        SettingService.saveRegionalSettings({})
+        TestDb.run("UPDATE " + data.table + " SET " + data.stored)
+        show("admin/settings/" + data.page)
+        compare(choice(data.label).currentIndex, -1)
+        compare(choice(data.label).displayText, data.shown)
+
+        press("Save")
+
+        compare(TestDb.value("SELECT COUNT(*) FROM " + data.table + " WHERE " + data.stored), 1)
+    }
+
+    function test_an_entry_chosen_replaces_a_value_that_is_not_on_offer() {
+        SettingService.saveRegionalSettings({ locale: "ms_MY", currency_code: "GBP" })
+        show("admin/settings/AdminRegionalSettings")
+
+        choice("App Language").currentIndex = 1
+        press("Save")
+
+        compare(TestDb.rows("SELECT locale, currency_code FROM regional_settings"), [{ locale: "zh_CN", currency_code: "GBP" }])
+        compare(SettingService.currencySymbol(), "£")
+    }
+
     function test_without_a_row_the_first_entries_stand_data() {
         return [
             { tag: "admin/settings/AdminTableSettings", table: "table_settings", choices: ["Layout Mode"] },

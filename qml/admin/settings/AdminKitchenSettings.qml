@@ -29,8 +29,8 @@ SettingsPage {
     function save(): void {
         const saved = SettingService.saveKitchenSettings({
             id: root.settingsId,
-            mode: modeBox.currentValue,
-            ticket_print_timing: timingBox.currentValue,
+            mode: modeBox.chosenValue,
+            ticket_print_timing: timingBox.chosenValue,
             require_ready_for_checkout: readySwitch.checked ? 1 : 0,
             allow_edit_after_send: editSwitch.checked ? 1 : 0
         })

@@ -36,7 +36,7 @@ SettingsPage {
             earn_spend: parseFloat(earnSpendField.text) || 0,
             redeem_points: parseInt(redeemPointsField.text) || 0,
             redeem_value: parseFloat(redeemValueField.text) || 0,
-            earn_on: earnOnBox.currentValue
+            earn_on: earnOnBox.chosenValue
         })
         if (!saved)
             root.errorMessage = qsTr("Failed to save membership settings.")

@@ -26,8 +26,8 @@ SettingsPage {
     function save(): void {
         const saved = SettingService.saveRegionalSettings({
             id: root.settingsId,
-            locale: languageBox.currentValue,
-            currency_code: currencyBox.currentValue
+            locale: languageBox.chosenValue,
+            currency_code: currencyBox.chosenValue
         })
         if (!saved)
             root.errorMessage = qsTr("Failed to save regional settings.")

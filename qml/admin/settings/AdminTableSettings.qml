@@ -25,7 +25,7 @@ SettingsPage {
 
     function save(): void {
         root.errorMessage = ""
-        if (!SettingService.saveTableSettings({ id: root.settingsId, layout_mode: layoutBox.currentValue }))
+        if (!SettingService.saveTableSettings({ id: root.settingsId, layout_mode: layoutBox.chosenValue }))
             root.errorMessage = qsTr("Failed to save table settings.")
     }
 
