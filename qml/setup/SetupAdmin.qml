@@ -10,8 +10,6 @@ import zelvan.Theme 1.0
 Item {
     id: root
 
-    // Tells an answer to this form's request from one to a request made elsewhere later on, since the
-    // form stays on the stack.
     property bool running: false
 
     // The texts of this screen's errors are English in every language.
@@ -117,10 +115,11 @@ Item {
 
     Connections {
         function onCreateUserFinished(success: bool): void {
-            if (root.running)
-                root.finishRegistration(success)
+            root.finishRegistration(success)
         }
 
+        // The form stays on the stack, below screens that create users too.
+        enabled: root.visible
         target: UserService
     }
 }

@@ -68,6 +68,15 @@ ScreenTestCase {
         compare(TestDb.value("SELECT COUNT(*) FROM users"), 1)
     }
 
+    function test_whatever_made_the_user_fail_is_told_on_the_form_on_show() {
+        screen("setup/SetupAdmin")
+
+        UserService.createUserFinished(false)
+
+        verify(shows("Could not create account"))
+        verify(!page.running)
+    }
+
     function test_the_form_below_leaves_users_made_later_alone() {
         register("boss", "secret", "secret")
         tryVerify(() => shownScreen() === "SetupBetaWelcome")
