@@ -9,6 +9,7 @@ Button {
     id: control
 
     property color fillColor: Theme.surface
+    property color pressedColor: Qt.darker(fillColor, 1.1)
     property color textColor: "white"
     property color borderColor: "transparent"
     property int borderWidth: 1
@@ -35,7 +36,7 @@ Button {
     background: Rectangle {
         border.color: control.borderColor
         border.width: control.borderWidth
-        color: control.down ? Qt.darker(control.fillColor, 1.1) : control.fillColor
+        color: control.down ? control.pressedColor : control.fillColor
         opacity: control.dimmed ? 0.5 : 1
         radius: control.radius
     }

@@ -140,8 +140,9 @@ SetupFrame {
         Layout.fillWidth: true
         Layout.preferredHeight: 70
         borderColor: Theme.error()
-        fillColor: down ? "red" : "transparent"
+        fillColor: "transparent"
         font.pixelSize: Theme.fontSmall
+        pressedColor: "red"
         radius: 6
         text: qsTr("Replace Existing Database")
         textColor: down ? "white" : Theme.error()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import Zelvan.Services 1.0
+import zelvan.Theme 1.0
 import ZelvanTest 1.0
 
 ScreenTestCase {
@@ -91,6 +92,21 @@ ScreenTestCase {
         press("Choose Another Location")
 
         compare(shownScreen(), "SetupDBCreation")
+    }
+
+    function test_the_way_to_the_replacement_turns_red_under_the_finger() {
+        screen("setup/SetupDBChoice", { mode: "exists", currentPath: "/x" })
+        const way = button("Replace Existing Database")
+        compare(way.height, 70)
+        compare(way.background.color, Qt.color("transparent"))
+        compare(way.background.border.color, Theme.error())
+        compare(way.contentItem.color, Theme.error())
+
+        mousePress(way)
+
+        compare(way.background.color, Qt.color("red"))
+        compare(way.contentItem.color, Qt.color("white"))
+        mouseRelease(way, -1, -1)
     }
 
     function test_only_the_exact_word_unlocks_the_replacement_data() {
