@@ -19,8 +19,9 @@ Button {
     font.pixelSize: Theme.fontNormal
     hoverEnabled: false
     implicitHeight: 50
-    leftPadding: 8
-    rightPadding: 8
+    // Narrow, so that the longest page name stands whole in its bold.
+    leftPadding: 4
+    rightPadding: 4
 
     contentItem: Text {
         color: control.selected ? "white" : control.enabled ? Theme.text : Theme.secondaryText

@@ -51,6 +51,32 @@ ZelvanTestCase {
         verify(button("Take Order").font.bold)
     }
 
+    function test_each_sidebar_has_its_look_data() {
+        return [
+            { tag: "AdminHome", row: "Checkout", color: Theme.background, radius: 0 },
+            { tag: "AdminManagement", row: "Members", color: Theme.surface, radius: 4 },
+            { tag: "AdminSettings", row: "Region & Formats", color: Theme.background, radius: 4 }
+        ]
+    }
+
+    function test_each_sidebar_has_its_look(data) {
+        show("admin/" + data.tag)
+        const row = button(data.row)
+        compare(row.background.color, data.color)
+        compare(row.background.radius, data.radius)
+        compare(row.contentItem.color, Theme.text)
+        compare(row.font.family === "Arial", data.tag !== "AdminHome")
+        verify(!row.font.bold)
+        compare(row.focusPolicy, Qt.NoFocus)
+        verify(!row.hoverEnabled)
+
+        press(data.row)
+
+        compare(row.background.color, Theme.primary())
+        compare(row.contentItem.color, Qt.color("white"))
+        verify(row.font.bold)
+    }
+
     function test_an_index_outside_the_rows_leaves_the_page_data() {
         return [{ tag: "-1", index: -1 }, { tag: "7", index: 7 }]
     }
@@ -125,7 +151,7 @@ ZelvanTestCase {
     function test_the_management_rows_open_their_pages_data() {
         return [
             { tag: "Menu", shown: "Categories" }, { tag: "Table", shown: "Table Management" },
-            { tag: "User", shown: "User Management" }
+            { tag: "Members", shown: "Member Management" }, { tag: "User", shown: "User Management" }
         ]
     }
 
