@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
+#include "core/MainWindow.h"
 #include "core/SystemTheme.h"
 #include "core/Theme.h"
 #include "core/Translation.h"
@@ -9,6 +10,7 @@
 #include "support/ZelvanTest.h"
 
 #include <QLocale>
+#include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QSignalSpy>
@@ -31,6 +33,7 @@ private slots:
     void aCatalogueIsInstalledWhereThereIsOne_data();
     void aCatalogueIsInstalledWhereThereIsOne();
     void aSetUpRunOpensNothing();
+    void withoutTheScreensThereIsNoWindow();
     void nothingHasAParent();
     void everythingPublishedIsUsableInQml();
 };
@@ -153,6 +156,22 @@ void tst_Startup::aSetUpRunOpensNothing()
     for (const QString &line : lines) {
         QVERIFY2(line.startsWith("warning "), qPrintable(line));
     }
+}
+
+void tst_Startup::withoutTheScreensThereIsNoWindow()
+{
+    bool loaded = true;
+    QStringList lines;
+    {
+        const LogCapture log;
+        // This program holds no screens.
+        QQmlApplicationEngine engine;
+        loaded = loadMainWindow(engine);
+        lines = LogCapture::lines();
+    }
+
+    QVERIFY(!loaded);
+    QVERIFY(!lines.isEmpty());
 }
 
 void tst_Startup::nothingHasAParent()
