@@ -6,6 +6,6 @@
 
 namespace DatabaseBackup {
 /// Lets SQLite write a consistent, compacted copy of the working database. Fails, with a line in
-/// the log, where the target exists already.
+/// the log, where the target exists already; a copy that was cut short is removed.
 [[nodiscard]] bool writeCopy(const QString &targetPath);
 } // namespace DatabaseBackup

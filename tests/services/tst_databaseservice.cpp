@@ -5,6 +5,7 @@
 #include "services/DatabaseService.h"
 #include "services/SettingsKeys.h"
 #include "support/DatabaseFiles.h"
+#include "support/FileSizeLimit.h"
 #include "support/ZelvanTest.h"
 
 #include <QDateTime>
@@ -35,6 +36,8 @@ private slots:
     void aBackupFailsWhereItsFolderCannotBeMade();
     void aBackupNeedsAnOpenDatabase();
     void aBackupNeedsACheckpoint();
+    void aBackupCutShortByAFullDiskLeavesNothing_data();
+    void aBackupCutShortByAFullDiskLeavesNothing();
 
     void aRestoreIsOnlyStaged();
     void aSecondRestoreKeepsTheLastPath();
@@ -210,6 +213,34 @@ void tst_DatabaseService::aBackupNeedsACheckpoint()
 
     QVERIFY(filesIn(inFolder("backups")).isEmpty());
     QVERIFY(DatabaseManager::rollbackTransaction());
+}
+
+void tst_DatabaseService::aBackupCutShortByAFullDiskLeavesNothing_data()
+{
+    QTest::addColumn<int>("bytes");
+
+    QTest::newRow("held in memory until the end") << 200'000;
+    QTest::newRow("partly written, with a journal") << 20'000'000;
+}
+
+void tst_DatabaseService::aBackupCutShortByAFullDiskLeavesNothing()
+{
+    QFETCH(int, bytes);
+    openStore(inFolder("Zelvan.db"));
+    DatabaseFiles::run(
+        inFolder("Zelvan.db"),
+        QStringLiteral("UPDATE restaurant SET address = hex(zeroblob(%1))").arg(bytes / 2));
+    QVERIFY(DatabaseManager::checkpointWal());
+
+    expectLog(QtWarningMsg, "Backup failed:");
+    {
+        const FileSizeLimit fullDisk(rlim_t(bytes) / 2);
+        QVERIFY(!m_service.backupDatabase());
+    }
+
+    QVERIFY(filesIn(inFolder("backups")).isEmpty());
+    QVERIFY(m_service.backupDatabase());
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("live"));
 }
 
 void tst_DatabaseService::aRestoreIsOnlyStaged()
