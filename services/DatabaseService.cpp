@@ -49,6 +49,14 @@ bool isRestorable(const QString &path, const char *missingText)
     return true;
 }
 
+/// Whether the platform's settings store took what was set, which only its status tells.
+bool areSettingsStored()
+{
+    QSettings settings;
+    settings.sync();
+    return settings.status() != QSettings::AccessError;
+}
+
 bool isSameFile(const QString &path, const QString &otherPath)
 {
     return QFileInfo(path).canonicalFilePath() == QFileInfo(otherPath).canonicalFilePath();
@@ -204,17 +212,18 @@ bool DatabaseService::isFreeTarget(const QString &source, const QString &target)
 
 bool DatabaseService::switchTo(const QString &target, const QString &source)
 {
+    // The log of a database that is gone: SQLite would play it into the copy.
+    removeCompanions(target);
     if (!QFile::copy(source, target)) {
         qCWarning(lcDatabase) << "Failed to copy database.";
         return false;
     }
-    if (!takesOver(target)) {
+    if (!takesOver(target) || !configure(target, source)) {
         // Closed first: an open file cannot be removed everywhere.
         m_databases->closeDatabase();
         QFile::remove(target);
         return false;
     }
-    m_app->setDatabasePath(target);
     return true;
 }
 
@@ -226,6 +235,18 @@ bool DatabaseService::takesOver(const QString &target)
     }
     if (!m_databases->initialize(target)) {
         qCWarning(lcDatabase) << "Failed to initialize moved database.";
+        return false;
+    }
+    return true;
+}
+
+bool DatabaseService::configure(const QString &target, const QString &source)
+{
+    m_app->setDatabasePath(target);
+    if (!areSettingsStored()) {
+        // The next start will look for the old file, so that one has to stay.
+        qCWarning(lcDatabase) << "Failed to save the new database path.";
+        m_app->setDatabasePath(source);
         return false;
     }
     return true;
@@ -313,6 +334,9 @@ void DatabaseService::rollBackReplacement(const QString &dbPath, const QString &
     m_databases->closeDatabase();
     if (QFile::exists(dbPath) && !QFile::remove(dbPath)) {
         qCCritical(lcDatabase) << "Failed to remove partially-created replacement database";
+    } else {
+        // What belonged to the replacement must not stand beside the original.
+        removeCompanions(dbPath);
     }
     qCWarning(lcSetup) << "Restoring original database from backup.";
     if (QFile::rename(backupPath, dbPath)) {

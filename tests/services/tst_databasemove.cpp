@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/DatabaseManager.h"
+#include "repositories/RestaurantRepository.h"
 #include "services/AppService.h"
 #include "services/DatabaseService.h"
 #include "support/DatabaseFiles.h"
 #include "support/FileSizeLimit.h"
 #include "support/LogHook.h"
 #include "support/UnprivilegedUser.h"
+#include "support/UnwritableSettings.h"
 #include "support/ZelvanTest.h"
 
 #include <QDir>
@@ -44,6 +46,9 @@ private slots:
     void aFailedCopyEndsBackOnTheOldFile();
     void aCopyThatCannotBeOpenedGoesAgain();
     void aCopyThatCannotBeMigratedGoesAgain();
+    void aPathThatCannotBeSavedEndsBackOnTheOldFile();
+    void theLogOfAVanishedDatabaseIsNotPlayedIntoTheCopy();
+    void repositoriesStayCutOffAfterAFailedMove();
     void anOldFileThatStaysDoesNotFailTheMove();
     void aFolderThatStaysDoesNotFailTheMove();
 
@@ -311,6 +316,48 @@ void tst_DatabaseMove::aCopyThatCannotBeMigratedGoesAgain()
 
     verifyStillOn(inFolder("here/Zelvan.db"));
     QVERIFY(QDir(inFolder("there/ZelvanPOS/data")).isEmpty());
+}
+
+void tst_DatabaseMove::aPathThatCannotBeSavedEndsBackOnTheOldFile()
+{
+    openStore(inFolder("here/Zelvan.db"));
+    const UnwritableSettings inTheWay("Database closed");
+
+    expectLog(QtWarningMsg, "Failed to save the new database path.");
+    QVERIFY(!m_service.moveDatabase(inFolder("there")));
+
+    verifyStillOn(inFolder("here/Zelvan.db"));
+    QVERIFY(QDir(inFolder("there/ZelvanPOS/data")).isEmpty());
+}
+
+void tst_DatabaseMove::theLogOfAVanishedDatabaseIsNotPlayedIntoTheCopy()
+{
+    const QString target = inFolder("there/ZelvanPOS/data/Zelvan.db");
+    DatabaseFiles::makeLogOnly(target);
+    openStore(inFolder("here/Zelvan.db"));
+
+    QVERIFY(m_service.moveDatabase(inFolder("there")));
+
+    QCOMPARE(DatabaseFiles::storeName(target), QStringLiteral("live"));
+}
+
+void tst_DatabaseMove::repositoriesStayCutOffAfterAFailedMove()
+{
+    openStore(inFolder("here/Zelvan.db"));
+    RestaurantRepository restaurant(DatabaseManager::connection());
+    const QString there = DatabaseFiles::makeUnopenableFolder(m_folder->path());
+    QVERIFY(restaurant.fetch());
+
+    expectLog(QtWarningMsg, "QSqlDatabasePrivate::removeDatabase: connection 'main_connection' "
+                            "is still in use");
+    expectLog(QtWarningMsg, "Failed to open database test connection:");
+    expectLog(QtWarningMsg, "Copied database could not be opened.");
+    QVERIFY(!m_service.moveDatabase(there));
+
+    verifyStillOn(inFolder("here/Zelvan.db"));
+    expectLog(QtWarningMsg, "QSqlQuery::prepare: database not open");
+    expectLog(QtWarningMsg, "Failed to fetch restaurant:");
+    QVERIFY(!restaurant.fetch());
 }
 
 void tst_DatabaseMove::anOldFileThatStaysDoesNotFailTheMove()

@@ -39,6 +39,7 @@ private slots:
     void aDatabaseThatCannotBeSetAsideStays();
     void aReplacementThatCannotBeInitialisedIsRolledBack();
     void aFullDiskIsRolledBack();
+    void leftoversOfTheReplacementGo();
     void aPartialReplacementThatStaysKeepsTheOldDatabaseBesideIt();
     void anOldDatabaseThatCannotBePutBackIsKeptBeside();
     void aBackupThatStaysDoesNotFailTheReplacement();
@@ -258,6 +259,30 @@ void tst_DatabaseReplace::aFullDiskIsRolledBack()
 
     QCOMPARE(DatabaseFiles::storeName(m_path), QStringLiteral("old"));
     QVERIFY(!QFile::exists(m_backup));
+}
+
+void tst_DatabaseReplace::leftoversOfTheReplacementGo()
+{
+    // No room even for the index of the write-ahead log, which then stays behind half-made.
+    constexpr rlim_t limit = 16 * 1024;
+    DatabaseFiles::makeStore(m_path, "old");
+    std::unique_ptr<FileSizeLimit> fullDisk;
+    {
+        const LogHook inTheWay("Creating replacement database", [&fullDisk, limit] {
+            fullDisk = std::make_unique<FileSizeLimit>(limit);
+        });
+
+        expectLog(QtCriticalMsg, "Failed to create applied_migrations:");
+        expectLog(QtCriticalMsg, "Failed to initialize replacement database.");
+        expectLog(QtWarningMsg, "Restoring original database from backup.");
+        expectLog(QtInfoMsg, "Database replacement rolled back successfully.");
+        QVERIFY(!m_service.replaceDatabase(m_path));
+    }
+    fullDisk.reset();
+
+    QVERIFY(!QFile::exists(m_path + "-wal"));
+    QVERIFY(!QFile::exists(m_path + "-shm"));
+    QCOMPARE(DatabaseFiles::storeName(m_path), QStringLiteral("old"));
 }
 
 void tst_DatabaseReplace::aPartialReplacementThatStaysKeepsTheOldDatabaseBesideIt()

@@ -53,6 +53,21 @@ void DatabaseFiles::makeStore(const QString &path, const QString &storeName)
                   .arg(storeName));
 }
 
+void DatabaseFiles::makeLogOnly(const QString &path)
+{
+    const QString log = path + QStringLiteral("-wal");
+    const QString kept = path + QStringLiteral("-kept");
+    makeStore(path, QStringLiteral("vanished"));
+    const bool made = DatabaseManager::openExisting(path) &&
+                      QSqlQuery(DatabaseManager::connection())
+                          .exec(QStringLiteral("UPDATE restaurant SET name = 'vanished later'")) &&
+                      QFile::copy(log, kept);
+    DatabaseManager::closeDatabase();
+    if (!made || !QFile::remove(path) || !QFile::rename(kept, log)) {
+        qFatal("cannot make %s", qPrintable(log));
+    }
+}
+
 void DatabaseFiles::makeForeign(const QString &path)
 {
     run(path, QStringLiteral("CREATE TABLE recipes (name TEXT)"));

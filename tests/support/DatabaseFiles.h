@@ -9,6 +9,8 @@
 namespace DatabaseFiles {
 /// A migrated database of this program, told from others by the store's name. Folders are made.
 void makeStore(const QString &path, const QString &storeName);
+/// What is left of a database with a change in its write-ahead log once the file itself is gone.
+void makeLogOnly(const QString &path);
 /// A SQLite file of another program.
 void makeForeign(const QString &path);
 void makeText(const QString &path);
