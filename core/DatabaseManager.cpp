@@ -323,7 +323,7 @@ bool DatabaseManager::openExisting(const QString &path)
         QSqlDatabase::removeDatabase(mainConnectionName);
         return false;
     }
-    // The results are deliberately not examined: the file was validated by the caller.
+    // The results are deliberately not examined: the next statement on a bad file tells.
     {
         QSqlQuery query(database);
         query.exec(QStringLiteral("PRAGMA foreign_keys = ON"));

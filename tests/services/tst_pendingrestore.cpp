@@ -4,6 +4,7 @@
 #include "services/DatabaseService.h"
 #include "services/SettingsKeys.h"
 #include "support/DatabaseFiles.h"
+#include "support/FileSizeLimit.h"
 #include "support/ZelvanTest.h"
 
 #include <QDir>
@@ -31,6 +32,7 @@ private slots:
     void anUnfitStagedFileIsForgotten();
     void aFileSwappedAfterTheStagingIsRefused();
     void aFailedCopyIsTriedAgainAtTheNextStart();
+    void aCopyThatFailsOnAFullDiskLeavesTheStagedFileWhole();
     void theLiveFileItselfIsNotLost();
 
 private:
@@ -193,6 +195,26 @@ void tst_PendingRestore::aFailedCopyIsTriedAgainAtTheNextStart()
     QVERIFY(DatabaseService::applyPendingRestore());
     QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("old"));
     QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+}
+
+void tst_PendingRestore::aCopyThatFailsOnAFullDiskLeavesTheStagedFileWhole()
+{
+    constexpr rlim_t limit = 100'000;
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    stage(inFolder("old.db"), inFolder("Zelvan.db"));
+
+    {
+        const FileSizeLimit fullDisk(limit);
+        QVERIFY(!DatabaseService::applyPendingRestore());
+    }
+
+    // The one step after which no database stands at the configured path.
+    QVERIFY(!QFile::exists(inFolder("Zelvan.db")));
+    QCOMPARE(DatabaseFiles::storeName(inFolder("old.db")), QStringLiteral("old"));
+    QCOMPARE(QSettings().value(SettingsKeys::pendingRestore).toString(), inFolder("old.db"));
+    QVERIFY(DatabaseService::applyPendingRestore());
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("old"));
 }
 
 void tst_PendingRestore::theLiveFileItselfIsNotLost()
