@@ -54,13 +54,15 @@ Item {
         earnedPointsPreview = 0
     }
 
+    // The last bill's member is forgotten before the change of selection previews the new bill:
+    // those points would lower its total.
     function selectSession(session: var) {
         selectedRecent = null
         selectedRecentDetails = null
-        selectedSession = session
         forgetMember()
         redeemPointsRequested = 0
         redeemDiscountPreview = 0
+        selectedSession = session
         checkoutDetails = CheckoutService.loadCheckoutDetails(session.id)
         updateMembershipPreview()
     }

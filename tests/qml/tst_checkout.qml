@@ -275,6 +275,24 @@ ZelvanTestCase {
         compare(field("Member Phone (optional)").text, "")
     }
 
+    function test_another_bill_does_not_inherit_the_redemption() {
+        member(100)
+        order("takeaway", {})
+        order("takeaway", {})
+        show("common/Checkout")
+        click(sessionRow(0))
+        enter("Member Phone (optional)", "0123")
+        press("Check")
+        press("Redeem All")
+        verify(shows("Total: $20.00"))
+
+        click(sessionRow(1))
+
+        verify(shows("Total: $30.00"))
+        verify(!texts().some(text => text.startsWith("Discount")))
+        verify(!page.membershipChecked)
+    }
+
     function test_the_phone_is_trimmed() {
         order("takeaway", {})
         show("common/Checkout")
