@@ -114,6 +114,16 @@ void Statement::prepare(const QString &sql)
     m_prepared = m_query.prepare(sql);
 }
 
+bool Statement::brokeOff()
+{
+    if (!m_query.lastError().isValid()) {
+        return false;
+    }
+    report();
+    m_waiting = nullptr;
+    return true;
+}
+
 void Statement::report() const
 {
     if (!m_report.text) {

@@ -84,7 +84,8 @@ public:
     [[nodiscard]] std::optional<QString> optionalText(int column) const;
     [[nodiscard]] std::optional<int> optionalInteger(int column) const;
 
-    /// Runs the statement and makes a record of every row; empty on failure.
+    /// Runs the statement and makes a record of every row; empty on failure, one half way through
+    /// included: part of a bill would pass for the whole.
     template<typename Reader>
     [[nodiscard]] auto rows(Reader read)
     {
@@ -92,6 +93,9 @@ public:
         if (run()) {
             while (next()) {
                 records.append(read(*this));
+            }
+            if (brokeOff()) {
+                records.clear();
             }
         }
         return records;
@@ -104,6 +108,8 @@ private:
     /// A statement prepared before, which `m_prepared` then says, or a new one.
     [[nodiscard]] QSqlQuery waitingOr(const QSqlDatabase &database);
     void prepare(const QString &sql);
+    /// Whether the rows ended in an error, which is logged then.
+    [[nodiscard]] bool brokeOff();
     void report() const;
 
     /// Not a copy: the text outlives the statement.
