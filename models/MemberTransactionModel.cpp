@@ -3,13 +3,13 @@
 #include "models/MemberTransactionModel.h"
 
 #include <QDateTime>
-#include <QTimeZone>
 
 namespace {
 QString localTimeText(const QString &storedUtc)
 {
-    QDateTime time = QDateTime::fromString(storedUtc, Qt::ISODate);
-    time.setTimeZone(QTimeZone::utc());
+    // Read as UTC from the start: as a local time it would lose the hour that the local clock
+    // leaves out in spring.
+    const QDateTime time = QDateTime::fromString(storedUtc + QLatin1Char('Z'), Qt::ISODate);
     return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 } // namespace

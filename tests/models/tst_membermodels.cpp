@@ -77,6 +77,10 @@ void tst_MemberModels::aStoredTimeIsReadAsUtcAndShownLocally_data()
                           << "2026-01-03 07:04:05";
     QTest::newRow("west") << QByteArray("WEST+5") << "2026-01-02 03:04:05"
                           << "2026-01-01 22:04:05";
+    // There was no half past two on that clock that night; UTC knows no such gap.
+    QTest::newRow("the hour that the local clock left out")
+        << QByteArray("CET-1CEST,M3.5.0,M10.5.0/3") << "2026-03-29 02:30:00"
+        << "2026-03-29 04:30:00";
     QTest::newRow("no time") << QByteArray("UTC") << ""
                              << "";
 }
