@@ -5,23 +5,17 @@
 #include "core/Arithmetic.h"
 #include "core/DatabaseManager.h"
 #include "core/Logging.h"
-#include "core/records/Membership.h"
 #include "core/records/Printer.h"
-#include "core/records/Restaurant.h"
 #include "core/records/Table.h"
 #include "core/records/TaxSettings.h"
 #include "printing/ReceiptBuilder.h"
-#include "repositories/MembershipRepository.h"
-#include "repositories/MembershipTransactionRepository.h"
 #include "repositories/OrderItemRepository.h"
 #include "repositories/OrderRepository.h"
 #include "repositories/OrderSessionRepository.h"
 #include "repositories/PrinterRepository.h"
 #include "repositories/ReceiptSnapshotRepository.h"
-#include "repositories/RestaurantRepository.h"
 #include "repositories/TableRepository.h"
 #include "repositories/TaxSettingsRepository.h"
-#include "services/AuthService.h"
 #include "services/CheckoutMaps.h"
 #include "services/MembershipService.h"
 #include "services/OrderIds.h"
@@ -56,11 +50,8 @@ CheckoutService::CheckoutService(
     , m_sessions(sessions)
     , m_orders(orders)
     , m_items(items)
-    , m_restaurant(restaurant)
     , m_printers(printers)
     , m_tables(tables)
-    , m_memberships(memberships)
-    , m_membershipTransactions(membershipTransactions)
     , m_taxSettings(taxSettings)
     , m_appState(appState)
     , m_snapshots(snapshots)
@@ -72,8 +63,9 @@ CheckoutService::CheckoutService(
     , m_settings(settings)
     , m_tableService(tableService)
     , m_reservationService(reservationService)
-    , m_auth(auth)
     , m_database(database)
+    , m_snapshotAssembler(restaurant, taxSettings, memberships, membershipTransactions, settings,
+                          auth)
 {}
 
 QVariantList CheckoutService::loadActiveCheckoutSessions()
@@ -312,58 +304,12 @@ bool CheckoutService::freeTable(const OrderSession &session)
 
 bool CheckoutService::createReceiptSnapshot(const OrderSession &session)
 {
-    const std::optional<Restaurant> restaurant = m_restaurant->fetch();
-    if (!restaurant) {
+    std::optional<ReceiptSnapshot> snapshot = m_snapshotAssembler.assemble(session);
+    if (!snapshot) {
         return false;
     }
-    const QString blank = QStringLiteral("");
-    ReceiptSnapshot snapshot;
-    snapshot.order_session_id = session.id;
-    snapshot.cashier_name = m_auth->currentUsername();
-    snapshot.store_name = restaurant->name;
-    snapshot.address = restaurant->address;
-    snapshot.phone = restaurant->phone_number.value_or(blank);
-    snapshot.email = restaurant->email.value_or(blank);
-    snapshot.website = restaurant->website.value_or(blank);
-    fillTaxIdentity(snapshot);
-    fillMember(snapshot, session.id);
-    snapshot.order_type = session.order_type;
-    snapshot.table_name = tableNameOf(session);
-    return m_snapshots->create(snapshot) != 0;
-}
-
-void CheckoutService::fillTaxIdentity(ReceiptSnapshot &snapshot) const
-{
-    const QString blank = QStringLiteral("");
-    const std::optional<TaxSettings> tax = m_taxSettings->fetch();
-    if (!tax || !tax->enabled) {
-        snapshot.tax_name = blank;
-        snapshot.tax_rate = 0;
-        snapshot.tax_registration_number = blank;
-        return;
-    }
-    snapshot.tax_name = tax->name;
-    snapshot.tax_rate = tax->rate;
-    snapshot.tax_registration_number = tax->registration_number.value_or(blank);
-}
-
-/// A member who neither earned nor redeemed anything leaves no trace on the receipt.
-void CheckoutService::fillMember(ReceiptSnapshot &snapshot, int orderSessionId) const
-{
-    if (!m_settings->membershipEnabled()) {
-        return;
-    }
-    const int memberId = m_membershipTransactions->getMembershipIdBySession(orderSessionId);
-    if (memberId <= 0) {
-        return;
-    }
-    const Membership member = m_memberships->getById(memberId);
-    const int redeemed = m_membershipTransactions->getRedeemedPoints(orderSessionId);
-    const int earned = m_membershipTransactions->getEarnedPoints(orderSessionId);
-    snapshot.member_phone = member.phone_number;
-    snapshot.points_balance_after = member.total_points;
-    snapshot.points_balance_before =
-        Arithmetic::wrapSubtract(Arithmetic::wrapAdd(member.total_points, redeemed), earned);
+    snapshot->table_name = tableNameOf(session);
+    return m_snapshots->create(*snapshot) != 0;
 }
 
 QList<OrderItem> CheckoutService::itemsOf(const QList<Order> &orders) const

@@ -5,7 +5,7 @@
 #include "core/records/Order.h"
 #include "core/records/OrderItem.h"
 #include "core/records/OrderSession.h"
-#include "core/records/ReceiptSnapshot.h"
+#include "services/SnapshotAssembler.h"
 
 #include <QList>
 #include <QObject>
@@ -94,8 +94,6 @@ private:
     [[nodiscard]] bool freeTable(const OrderSession &session);
     [[nodiscard]] bool createReceiptSnapshot(const OrderSession &session);
 
-    void fillTaxIdentity(ReceiptSnapshot &snapshot) const;
-    void fillMember(ReceiptSnapshot &snapshot, int orderSessionId) const;
     [[nodiscard]] QList<OrderItem> itemsOf(const QList<Order> &orders) const;
     [[nodiscard]] QVariantList orderMaps(int orderSessionId) const;
     [[nodiscard]] std::optional<QString> tableNameOf(const OrderSession &session) const;
@@ -103,11 +101,8 @@ private:
     OrderSessionRepository *m_sessions;
     OrderRepository *m_orders;
     OrderItemRepository *m_items;
-    RestaurantRepository *m_restaurant;
     PrinterRepository *m_printers;
     TableRepository *m_tables;
-    MembershipRepository *m_memberships;
-    MembershipTransactionRepository *m_membershipTransactions;
     TaxSettingsRepository *m_taxSettings;
     AppStateRepository *m_appState;
     ReceiptSnapshotRepository *m_snapshots;
@@ -119,6 +114,6 @@ private:
     SettingService *m_settings;
     TableService *m_tableService;
     ReservationService *m_reservationService;
-    AuthService *m_auth;
     DatabaseManager *m_database;
+    SnapshotAssembler m_snapshotAssembler;
 };
