@@ -169,14 +169,6 @@ ModalFrame {
             }
         }
 
-        PlainLabel {
-            Layout.fillWidth: true
-            color: printerRoot.testStatus.includes("Success") ? "lightgreen"
-                 : printerRoot.testStatus === "Testing..." ? "orange" : "red"
-            text: printerRoot.testStatus
-            wrapMode: Text.WordWrap
-        }
-
         Item {
             Layout.fillHeight: true
         }
@@ -209,6 +201,14 @@ ModalFrame {
 
                 onClicked: printerRoot.save()
             }
+        }
+
+        PlainLabel {
+            Layout.fillWidth: true
+            color: printerRoot.testStatus.includes("Success") ? "lightgreen"
+                 : printerRoot.testStatus === "Testing..." ? "orange" : "red"
+            text: printerRoot.testStatus
+            wrapMode: Text.WordWrap
         }
     }
 }
