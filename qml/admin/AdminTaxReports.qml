@@ -26,7 +26,16 @@ Item {
 
     // "today", "yesterday", "week" from its Monday, "month", "lastMonth".
     function loadPreset(preset: string) {
-        const now = new Date()
+        const period = periodOf(preset, new Date())
+        fromDate = period.from
+        toDate = period.to
+        fromField.showDay()
+        toField.showDay()
+        loadReport()
+    }
+
+    // Local days, both included.
+    function periodOf(preset: string, now: var): var {
         const year = now.getFullYear()
         const month = now.getMonth()
         const day = now.getDate()
@@ -48,9 +57,7 @@ Item {
             to = new Date(year, month, 0)
             break
         }
-        fromDate = from
-        toDate = to
-        loadReport()
+        return { from: from, to: to }
     }
 
     // A wrong or reversed range is passed over without a word.
@@ -93,8 +100,16 @@ Item {
     }
 
     component DateField: ThemedField {
+        required property date day
+
+        // Also over what was typed in vain, of which the date knows nothing.
+        function showDay() {
+            text = Qt.formatDate(day, "yyyy-MM-dd")
+        }
+
         Layout.preferredWidth: 130
         placeholderText: "yyyy-MM-dd"
+        onDayChanged: showDay()
         onEditingFinished: root.loadCustomRange()
     }
 
@@ -173,8 +188,8 @@ Item {
                 DateField {
                     id: fromField
 
+                    day: root.fromDate
                     label: qsTr("From")
-                    text: Qt.formatDate(root.fromDate, "yyyy-MM-dd")
                 }
 
                 PlainLabel {
@@ -184,8 +199,8 @@ Item {
                 DateField {
                     id: toField
 
+                    day: root.toDate
                     label: qsTr("To")
-                    text: Qt.formatDate(root.toDate, "yyyy-MM-dd")
                 }
             }
         }

@@ -81,16 +81,12 @@ ZelvanTestCase {
         show("admin/AdminTaxReports")
         const before = page.summary
 
-        theField("From").text = data.from
-        theField("To").text = data.to
+        field("From").text = data.from
+        field("To").text = data.to
         page.loadCustomRange()
 
         compare(page.summary, before)
         compare(iso(page.fromDate), iso(new Date()))
-    }
-
-    function theField(label: string): var {
-        return field(label)
     }
 
     function test_the_presets_data() {
@@ -116,6 +112,40 @@ ZelvanTestCase {
         compare(page.summary.to, iso(data.to))
         compare(field("From").text, iso(data.from))
         compare(field("To").text, iso(data.to))
+    }
+
+    function test_a_preset_knows_the_calendar_data() {
+        return [
+            { tag: "yesterday over new year", preset: "yesterday", now: new Date(2026, 0, 1, 12), from: "2025-12-31", to: "2025-12-31" },
+            { tag: "week of a Sunday", preset: "week", now: new Date(2026, 2, 8, 12), from: "2026-03-02", to: "2026-03-08" },
+            { tag: "week of a Monday", preset: "week", now: new Date(2026, 2, 9, 12), from: "2026-03-09", to: "2026-03-09" },
+            { tag: "week of a Saturday", preset: "week", now: new Date(2026, 2, 7, 12), from: "2026-03-02", to: "2026-03-07" },
+            { tag: "month on its first day", preset: "month", now: new Date(2026, 2, 1, 12), from: "2026-03-01", to: "2026-03-01" },
+            { tag: "last month in January", preset: "lastMonth", now: new Date(2026, 0, 31, 12), from: "2025-12-01", to: "2025-12-31" },
+            { tag: "last month in March", preset: "lastMonth", now: new Date(2028, 2, 31, 12), from: "2028-02-01", to: "2028-02-29" }
+        ]
+    }
+
+    function test_a_preset_knows_the_calendar(data) {
+        show("admin/AdminTaxReports")
+
+        const period = page.periodOf(data.preset, data.now)
+
+        compare([iso(period.from), iso(period.to)], [data.from, data.to])
+    }
+
+    function test_a_preset_shows_its_dates_over_what_was_typed_in_vain() {
+        show("admin/AdminTaxReports")
+        type("From", "nonsense")
+        compare(field("From").text, "nonsense")
+
+        press("Today")
+
+        compare(field("From").text, iso(new Date()))
+        setRange("2025-03-01", "2025-03-02")
+        compare(page.summary.from, "2025-03-01")
+        press("Today")
+        compare(field("From").text, iso(new Date()))
     }
 
     function test_dates_with_other_than_two_hyphens_stay_as_they_are() {

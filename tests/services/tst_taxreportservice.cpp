@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/TaxReportRepository.h"
 #include "services/TaxReportService.h"
+#include "support/MovedClock.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 
@@ -28,6 +29,8 @@ private slots:
     void theSessionsComeLatestFirst();
     void aPresetCoversItsPeriod_data();
     void aPresetCoversItsPeriod();
+    void aPresetGoesByTheLocalDay_data();
+    void aPresetGoesByTheLocalDay();
 
 private:
     /// A session with a subtotal of 10.00, a tax of 1.00 and a discount of 0.50.
@@ -213,6 +216,54 @@ void tst_TaxReportService::aPresetCoversItsPeriod()
     QCOMPARE(summary.value("from").toString(), from.toString(Qt::ISODate));
     QCOMPARE(summary.value("to").toString(), to.toString(Qt::ISODate));
     QCOMPARE(summary, m_service->getSummary(from, to));
+}
+
+void tst_TaxReportService::aPresetGoesByTheLocalDay_data()
+{
+    QTest::addColumn<QByteArray>("operation");
+    QTest::addColumn<QByteArray>("localTime");
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QString>("period");
+
+    const auto row = [](const char *name, const char *operation, const char *localTime,
+                        const char *zone, const char *period) {
+        QTest::newRow(name) << QByteArray(operation) << QByteArray(localTime) << QByteArray(zone)
+                            << period;
+    };
+    // In Tokyo the UTC day is still the one before, in New York already the one after.
+    row("today in the east", "getTodaySummary", "2026-03-05 00:30:00", "Asia/Tokyo",
+        "2026-03-05 2026-03-05");
+    row("today in the west", "getTodaySummary", "2026-03-04 22:00:00", "America/New_York",
+        "2026-03-04 2026-03-04");
+    row("yesterday over new year", "getYesterdaySummary", "2026-01-01 12:00:00", "UTC",
+        "2025-12-31 2025-12-31");
+    row("week of a Sunday", "getThisWeekSummary", "2026-03-08 12:00:00", "UTC",
+        "2026-03-02 2026-03-08");
+    row("week of a Monday", "getThisWeekSummary", "2026-03-09 12:00:00", "UTC",
+        "2026-03-09 2026-03-09");
+    row("month on its first day", "getThisMonthSummary", "2026-03-01 12:00:00", "UTC",
+        "2026-03-01 2026-03-01");
+    row("last month in January", "getLastMonthSummary", "2026-01-31 12:00:00", "UTC",
+        "2025-12-01 2025-12-31");
+    row("last month in March", "getLastMonthSummary", "2028-03-31 12:00:00", "UTC",
+        "2028-02-01 2028-02-29");
+}
+
+void tst_TaxReportService::aPresetGoesByTheLocalDay()
+{
+    QFETCH(QByteArray, operation);
+    QFETCH(QByteArray, localTime);
+    QFETCH(QByteArray, zone);
+    QFETCH(QString, period);
+    if (movedTo(localTime.constData(), zone.constData())) {
+        return;
+    }
+    QVariantMap summary;
+
+    QVERIFY(QMetaObject::invokeMethod(m_service.get(), operation.constData(),
+                                      Q_RETURN_ARG(QVariantMap, summary)));
+
+    QCOMPARE(summary.value("from").toString() + ' ' + summary.value("to").toString(), period);
 }
 
 ZELVAN_TEST(tst_TaxReportService)
