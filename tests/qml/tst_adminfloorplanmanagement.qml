@@ -86,6 +86,39 @@ ZelvanTestCase {
         compare(TestDb.value("SELECT COUNT(*) FROM floors"), 0)
     }
 
+    function test_of_more_floors_than_fit_all_are_reached() {
+        for (let i = 1; i <= 20; ++i)
+            FloorPlanService.createFloor("Floor " + i)
+        FloorPlanService.createFloor("A very long name of a floor ".repeat(20))
+        editor()
+        verify(button("+ New Floor").mapToItem(page, 0, 0).x > page.width)
+        verify(allShown(item => isButton(item) && item.text.startsWith("A very long"))[0].width <= 240)
+        const row = theShown(item => item.flickDeceleration !== undefined && item.contentWidth > page.width, "the row of floors")
+
+        row.contentX = row.contentWidth - row.width
+        press("+ New Floor")
+
+        tryVerify(() => hasButton("Create Floor"))
+    }
+
+    function test_the_dialogs_have_their_sizes_and_ranges() {
+        FloorPlanService.createFloor("Hall")
+        editor()
+        const sizeOf = title => {
+            for (let i = 0; i < page.data.length; ++i)
+                if (page.data[i].title === title)
+                    return [page.data[i].width, page.data[i].height]
+        }
+
+        press("Add Table")
+        tryVerify(() => hasButton("Create Table"))
+
+        compare(sizeOf("Create Floor"), [360, 260])
+        compare(sizeOf("Create Table"), [360, 320])
+        const seats = theShown(item => item.Accessible.name === "Number Of Seats" && item.stepSize !== undefined, "seats")
+        compare([seats.from, seats.to, seats.value], [1, 20, 4])
+    }
+
     function test_the_first_floor_opens() {
         FloorPlanService.createFloor("Hall")
         FloorPlanService.createFloor("Terrace")
@@ -169,12 +202,19 @@ ZelvanTestCase {
         const wall = theShown(item => item.reservationText !== undefined, "the wall")
 
         drag(wall, 60, 40)
-        const moved = items_()[0].x
-        verify(moved > 160)
-        compare(TestDb.value("SELECT x FROM canvas_items"), 150)
+        drag(findChild(wall, "resizeHandle"), 30, 0)
+        drag(findChild(wall, "rotationHandle"), 40, 0)
+        verify(wall.x > 160)
+        verify(wall.width > 150)
+        verify(wall.rotation > 10)
+        compare(storedItems(), [{ x: 150, width: 150, rotation: 0 }])
         save()
 
-        compare(TestDb.value("SELECT x FROM canvas_items"), moved)
+        compare(storedItems(), [{ x: wall.x, width: wall.width, rotation: wall.rotation }])
+    }
+
+    function storedItems(): var {
+        return TestDb.rows("SELECT x, width, rotation FROM canvas_items")
     }
 
     function test_the_save_key_without_a_floor_does_nothing() {

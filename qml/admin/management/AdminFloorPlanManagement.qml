@@ -63,6 +63,28 @@ Item {
         FloorPlanService.addItem({ type: "wall", x: 150, y: 150, width: 150, height: 10, label: "" })
     }
 
+    component FloorTab: ChoiceButton {
+        id: floorTab
+
+        required property var model
+
+        width: Math.min(implicitWidth, 240)
+        padding: 10
+        font.bold: true
+        checked: model.id === root.currentFloorId
+        text: model.name
+        onClicked: root.showFloor(model.id)
+
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.RightButton
+            onPressed: {
+                floorMenu.floorId = floorTab.model.id
+                floorMenu.popup()
+            }
+        }
+    }
+
     implicitWidth: 800
     implicitHeight: 600
 
@@ -127,43 +149,37 @@ Item {
                 anchors.margins: 10
                 spacing: 4
 
-                Row {
-                    spacing: 10
+                // More floors than fit are scrolled to, and so is the button after them.
+                Flickable {
+                    Layout.fillWidth: true
+                    Layout.preferredHeight: floorRow.height
+                    boundsBehavior: Flickable.StopAtBounds
+                    clip: true
+                    contentWidth: floorRow.width
 
-                    Repeater {
-                        model: FloorPlanService.floorModel
+                    ScrollBar.horizontal: ScrollBar {}
 
-                        ChoiceButton {
-                            id: floorButton
+                    Row {
+                        id: floorRow
 
-                            required property var model
+                        spacing: 10
 
-                            padding: 10
-                            font.bold: true
-                            checked: model.id === root.currentFloorId
-                            text: model.name
-                            onClicked: root.showFloor(model.id)
+                        Repeater {
+                            model: FloorPlanService.floorModel
 
-                            MouseArea {
-                                anchors.fill: parent
-                                acceptedButtons: Qt.RightButton
-                                onPressed: {
-                                    floorMenu.floorId = floorButton.model.id
-                                    floorMenu.popup()
-                                }
-                            }
+                            FloorTab {}
                         }
-                    }
 
-                    FilledButton {
-                        padding: 10
-                        radius: 6
-                        text: qsTr("+ New Floor")
-                        fillColor: Theme.background
-                        textColor: Theme.text
-                        borderColor: Theme.primary()
-                        borderWidth: 2
-                        onClicked: floorDialog.open()
+                        FilledButton {
+                            padding: 10
+                            radius: 6
+                            text: qsTr("+ New Floor")
+                            fillColor: Theme.background
+                            textColor: Theme.text
+                            borderColor: Theme.primary()
+                            borderWidth: 2
+                            onClicked: floorDialog.open()
+                        }
                     }
                 }
 
