@@ -46,7 +46,7 @@ ModalFrame {
             color: Theme.secondaryText
             elide: Text.ElideRight
             text: root.message
-            wrapMode: Text.WordWrap
+            wrapMode: Text.Wrap
         }
 
         RowLayout {

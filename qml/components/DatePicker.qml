@@ -107,6 +107,9 @@ Item {
         height: 420
         // Kept inside a window that is too low for it.
         margins: 0
+        // Seven cells and their gaps are as wide as what is left.
+        leftPadding: 18
+        rightPadding: 18
         modal: true
         focus: true
         closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside

@@ -69,6 +69,14 @@ ZelvanTestCase {
         tryVerify(() => !dialog.visible)
     }
 
+    function test_a_word_longer_than_the_dialog_is_broken() {
+        const message = "Delete \"" + "x".repeat(200) + "\"?"
+        open({ message: message })
+
+        const label = theShown(item => item.text === message, "the message")
+        verify(label.contentWidth <= label.width)
+    }
+
     function test_markup_in_the_message_is_shown_as_it_was_typed() {
         open({ message: "Delete \"<b>x</b>\"?" })
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtTest
+import zelvan.Theme 1.0
 import ZelvanTest 1.0
 
 ZelvanTestCase {
@@ -52,6 +53,10 @@ ZelvanTestCase {
         const left = cells()[0].mapToItem(null, 0, 0).x
         verify(left > 400 - 20 && left < 400)
         verify(cells()[0].mapToItem(null, 0, 0).y > 105)
+        const calendar = theShown(item => item.radius === 12, "the calendar")
+        compare([calendar.width, calendar.height], [340, 420])
+        compare(calendar.mapToItem(null, 0, 0), Qt.point(380, 105))
+        compare(calendar.width - cells()[6].mapToItem(calendar, 40, 0).x, cells()[0].mapToItem(calendar, 0, 0).x)
     }
 
     function test_the_grid_starts_on_sunday_and_has_42_cells() {
@@ -157,6 +162,36 @@ ZelvanTestCase {
         compare(iso(page.selectedDate), iso(new Date()))
         compare(iso(page.currentDate), iso(new Date()))
         tryVerify(() => !hasButton("Today"))
+    }
+
+    function test_a_cell_shows_its_state_data() {
+        return [
+            { tag: "selected", day: 25, fill: "#9a7bff", border: "#9a7bff", number: "#ffffff", bold: true },
+            { tag: "today", day: 20, fill: "surface", border: "#00000000", number: "text", bold: true },
+            { tag: "open", day: 27, fill: "#00000000", border: "#00000000", number: "text", bold: false },
+            { tag: "past", day: 19, fill: "#00000000", border: "#00000000", number: "secondary", bold: false },
+            { tag: "outside", day: 31, fill: "surface", border: "#00000000", number: "secondary", bold: false }
+        ]
+    }
+
+    function test_a_cell_shows_its_state(data) {
+        makeDatePicker()
+        page.selectedDate = new Date(2027, 10, 25)
+        page.currentDate = new Date(2027, 10, 20)
+        openCalendar()
+        page.now = new Date(2027, 10, 20, 14, 0)
+        const colour = { surface: Theme.surface, text: Theme.text, secondary: Theme.secondaryText }
+
+        // November starts on Monday, so October's last day comes first.
+        const cell = data.tag === "outside" ? cells()[0] : cells().find(cell => cell.inMonth && cell.day.getDate() === data.day)
+
+        const number = items(cell).find(item => item.text !== undefined)
+        compare([cell.width, cell.height, cell.radius, cell.border.width], [40, 40, 6, 2])
+        compare(String(cell.color), String(colour[data.fill] ?? data.fill))
+        compare(String(cell.border.color), data.border)
+        compare(number.text, String(data.day))
+        compare(String(number.color), String(colour[data.number] ?? data.number))
+        compare(number.font.bold, data.bold)
     }
 
     function test_escape_and_a_press_outside_close_the_calendar() {
