@@ -121,6 +121,7 @@ Item {
                         required property var model
                         required property int index
 
+                        width: Math.min(implicitWidth, 240)
                         leftPadding: 10
                         rightPadding: 10
                         topPadding: 8

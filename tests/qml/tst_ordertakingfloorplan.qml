@@ -197,13 +197,8 @@ ZelvanTestCase {
         now.setHours(0, 0, 0, 0)
         verify(book({ reservationDateTime: now, durationMinutes: 2 * 24 * 60 }))
         open()
-        chooseTable()
-        TestDb.run("UPDATE canvas_items SET metadata = ''")
-        page.selectedTableId = -1
-        page.selectedTableId = 1
-        const dialog = openDialog()
 
-        dialog.openCreate(1)
+        reservationDialog().openCreate(1)
         tryVerify(() => hasButton("Cancel"))
         press("Create Reservation")
 
@@ -212,11 +207,105 @@ ZelvanTestCase {
     }
 
     // The page's own dialog.
-    function openDialog() {
+    function reservationDialog() {
         for (let i = 0; i < page.data.length; ++i)
             if (page.data[i].openCreate)
                 return page.data[i]
         return null
+    }
+
+    function spinBox(name: string): var {
+        return theShown(item => item.Accessible.name === name && item.stepSize !== undefined, "a box " + name)
+    }
+
+    function test_the_dialog_has_its_size_and_its_ranges() {
+        open()
+        chooseTable()
+        press("Create Reservation")
+        tryVerify(() => hasButton("Cancel"))
+
+        compare([reservationDialog().width, reservationDialog().height], [580, 520])
+        const guests = spinBox("Number Of Guests")
+        compare([guests.from, guests.to, guests.value], [1, 100, 2])
+        const duration = spinBox("Duration (minutes)")
+        compare([duration.from, duration.to, duration.stepSize, duration.value, duration.editable], [30, 300, 30, 90, true])
+    }
+
+    function test_a_new_booking_starts_empty_after_an_edited_one() {
+        verify(book({ pax: 7, durationMinutes: 120 }))
+        open()
+        chooseTable()
+        press("Update Reservation")
+        tryVerify(() => hasButton("Cancel"))
+        compare([spinBox("Number Of Guests").value, spinBox("Duration (minutes)").value], [7, 120])
+        press("Cancel")
+        tryVerify(() => !hasButton("Cancel"))
+
+        reservationDialog().openCreate(1)
+        tryVerify(() => hasButton("Cancel"))
+
+        compare([field("Customer Name").text, field("Customer Phone").text], ["", ""])
+        compare([spinBox("Number Of Guests").value, spinBox("Duration (minutes)").value], [2, 90])
+    }
+
+    function test_the_buttons_have_their_colours() {
+        verify(book())
+        open()
+        const fill = text => String(button(text).fillColor)
+        compare([fill("Takeaway"), fill("Delivery")], ["#5bb8d6", "#e3a34f"])
+
+        chooseTable()
+
+        compare([fill("Update Reservation"), fill("Cancel Reservation")], ["#4faba1", "#5a5a5a"])
+    }
+
+    function test_the_plan_is_1600_by_1200_beside_a_panel_of_320() {
+        open()
+
+        const view = tables()[0].parent
+        compare([view.width, view.height], [1600, 1200])
+        compare(theShown(item => item.tableChosen !== undefined, "the panel").width, 320)
+    }
+
+    function test_from_a_booked_table_to_a_free_one_and_back() {
+        verify(book())
+        FloorPlanService.loadCanvas(hall)
+        FloorPlanService.createTableItem({ floor_id: hall, label: "T2", capacity: 2, x: 300, y: 100, width: 80, height: 80 })
+        FloorPlanService.saveCanvas(hall)
+        open()
+        const table = label => tables().find(item => item.label === label)
+
+        click(table("T1"))
+        verify(shows("Customer: Anna"))
+        click(table("T2"))
+        verify(!shows("Reservation Details"))
+        verify(hasButton("Create Reservation"))
+        click(table("T1"))
+
+        verify(shows("Customer: Anna"))
+    }
+
+    function test_long_notes_leave_the_buttons_in_reach() {
+        verify(book({ notes: "a table by the window ".repeat(100) + "x".repeat(300), customerName: "Anna ".repeat(100) }))
+        open()
+        chooseTable()
+        const panel = theShown(item => item.tableChosen !== undefined, "the panel")
+        const scroller = theShown(item => item.flickDeceleration !== undefined && item.parent === panel, "what scrolls")
+        for (const item of allShown(item => item.text !== undefined && item.contentWidth !== undefined))
+            verify(item.mapToItem(panel, 0, 0).x < 0 || item.contentWidth <= panel.width, item.text)
+        verify(button("Cancel Reservation").mapToItem(panel, 0, 0).y > panel.height)
+
+        scroller.contentY = scroller.contentHeight - scroller.height
+        press("Cancel Reservation")
+
+        compare(TestDb.value("SELECT status FROM reservations"), "cancelled")
+    }
+
+    function test_a_long_name_of_a_floor_is_cut() {
+        FloorPlanService.createFloor("A very long name of a floor ".repeat(20))
+        open()
+
+        verify(allShown(item => isButton(item) && item.text.startsWith("A very long"))[0].width <= 240)
     }
 
     function test_the_panel_shows_the_reservation() {

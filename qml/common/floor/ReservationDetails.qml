@@ -55,7 +55,7 @@ ColumnLayout {
     Detail {
         text: qsTranslate("OrderTakingFloorPlan", "Notes: ") + root.reservation.notes
         elide: Text.ElideNone
-        wrapMode: Text.WordWrap
+        wrapMode: Text.Wrap
     }
 
     FilledButton {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
+import QtQuick.Controls
 import QtQuick.Layouts
 import zelvan
 import zelvan.Theme 1.0
@@ -30,97 +31,105 @@ Rectangle {
         color: Theme.border
     }
 
-    ColumnLayout {
+    // Long notes scroll, so that the buttons under them stay in reach.
+    Flickable {
         anchors.fill: parent
         anchors.margins: 16
-        spacing: 12
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        contentHeight: content.implicitHeight
 
-        PageHeading {
-            text: qsTranslate("OrderTakingFloorPlan", "Table Session")
-        }
+        ScrollBar.vertical: ScrollBar {}
 
-        Rule {}
+        ColumnLayout {
+            id: content
 
-        PlainLabel {
-            visible: !root.tableChosen
-            text: qsTranslate("OrderTakingFloorPlan", "Select a table for dine in")
-        }
+            width: parent.width
+            spacing: 12
 
-        Rule {
-            visible: !root.tableChosen
-        }
+            PageHeading {
+                text: qsTranslate("OrderTakingFloorPlan", "Table Session")
+            }
 
-        PlainLabel {
-            visible: !root.tableChosen
-            text: qsTranslate("OrderTakingFloorPlan", "Quick Orders")
-            font.bold: true
-        }
+            Rule {}
 
-        RowLayout {
-            visible: !root.tableChosen
-            spacing: 8
+            PlainLabel {
+                visible: !root.tableChosen
+                text: qsTranslate("OrderTakingFloorPlan", "Select a table for dine in")
+            }
+
+            Rule {
+                visible: !root.tableChosen
+            }
+
+            PlainLabel {
+                visible: !root.tableChosen
+                text: qsTranslate("OrderTakingFloorPlan", "Quick Orders")
+                font.bold: true
+            }
+
+            RowLayout {
+                visible: !root.tableChosen
+                spacing: 8
+
+                FilledButton {
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    text: qsTranslate("OrderTakingFloorPlan", "Takeaway")
+                    fillColor: "#5bb8d6"
+                    onClicked: root.page.startQuickOrder("takeaway")
+                }
+
+                FilledButton {
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    text: qsTranslate("OrderTakingFloorPlan", "Delivery")
+                    fillColor: "#e3a34f"
+                    onClicked: root.page.startQuickOrder("delivery")
+                }
+            }
+
+            PageHeading {
+                Layout.fillWidth: true
+                visible: root.tableChosen
+                text: root.chosen ? root.chosen.canvasItem.label : qsTranslate("OrderTakingFloorPlan", "Unknown Table")
+                elide: Text.ElideRight
+            }
+
+            PlainLabel {
+                visible: root.tableChosen
+                text: qsTranslate("OrderTakingFloorPlan", "Capacity: ") + (root.chosen?.canvasItem.capacity ?? 0)
+            }
+
+            Rule {
+                visible: root.tableChosen
+            }
+
+            PrimaryButton {
+                Layout.fillWidth: true
+                visible: root.tableChosen
+                text: qsTranslate("OrderTakingFloorPlan", "Create Dine-In Order")
+                onClicked: root.page.startDineIn()
+            }
 
             FilledButton {
                 Layout.fillWidth: true
-                Layout.preferredWidth: 1
-                text: qsTranslate("OrderTakingFloorPlan", "Takeaway")
-                fillColor: "#5bb8d6"
-                onClicked: root.page.startQuickOrder("takeaway")
+                visible: root.tableChosen && root.page.reservation === null
+                text: qsTranslate("OrderTakingFloorPlan", "Create Reservation")
+                fillColor: "#4faba1"
+                onClicked: root.reservationRequested()
             }
 
-            FilledButton {
+            Loader {
                 Layout.fillWidth: true
-                Layout.preferredWidth: 1
-                text: qsTranslate("OrderTakingFloorPlan", "Delivery")
-                fillColor: "#e3a34f"
-                onClicked: root.page.startQuickOrder("delivery")
+                active: root.tableChosen && root.page.reservation !== null
+                visible: active
+                sourceComponent: ReservationDetails {
+                    reservation: root.page.reservation
+                    onUpdateRequested: root.page.editReservation()
+                    onCancelRequested: ReservationService.cancelReservation(reservation.id)
+                }
             }
-        }
-
-        PageHeading {
-            Layout.fillWidth: true
-            visible: root.tableChosen
-            text: root.chosen ? root.chosen.canvasItem.label : qsTranslate("OrderTakingFloorPlan", "Unknown Table")
-            elide: Text.ElideRight
-        }
-
-        PlainLabel {
-            visible: root.tableChosen
-            text: qsTranslate("OrderTakingFloorPlan", "Capacity: ") + (root.chosen?.canvasItem.capacity ?? 0)
-        }
-
-        Rule {
-            visible: root.tableChosen
-        }
-
-        PrimaryButton {
-            Layout.fillWidth: true
-            visible: root.tableChosen
-            text: qsTranslate("OrderTakingFloorPlan", "Create Dine-In Order")
-            onClicked: root.page.startDineIn()
-        }
-
-        FilledButton {
-            Layout.fillWidth: true
-            visible: root.tableChosen && root.page.reservation === null
-            text: qsTranslate("OrderTakingFloorPlan", "Create Reservation")
-            fillColor: "#4faba1"
-            onClicked: root.reservationRequested()
-        }
-
-        Loader {
-            Layout.fillWidth: true
-            active: root.tableChosen && root.page.reservation !== null
-            visible: active
-            sourceComponent: ReservationDetails {
-                reservation: root.page.reservation
-                onUpdateRequested: root.page.editReservation()
-                onCancelRequested: ReservationService.cancelReservation(reservation.id)
-            }
-        }
-
-        Item {
-            Layout.fillHeight: true
         }
     }
 }
