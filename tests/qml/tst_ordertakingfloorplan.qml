@@ -231,6 +231,23 @@ ZelvanTestCase {
         compare([duration.from, duration.to, duration.stepSize, duration.value, duration.editable], [30, 300, 30, 90, true])
     }
 
+    function test_a_duration_that_is_still_being_typed_is_booked() {
+        open()
+        chooseTable()
+        press("Create Reservation")
+        tryVerify(() => hasButton("Cancel"))
+        const duration = spinBox("Duration (minutes)")
+        duration.contentItem.forceActiveFocus()
+        duration.contentItem.selectAll()
+        for (const digit of "120")
+            keyClick(digit)
+
+        press("Create Reservation", 1)
+
+        tryVerify(() => !hasButton("Cancel"))
+        compare(TestDb.value("SELECT duration_minutes FROM reservations"), 120)
+    }
+
     function test_a_new_booking_starts_empty_after_an_edited_one() {
         verify(book({ pax: 7, durationMinutes: 120 }))
         open()

@@ -44,6 +44,8 @@ ModalFrame {
     }
 
     function confirm() {
+        // The buttons take no focus, so a duration that is still being typed is taken over here.
+        durationBox.focus = false
         const day = datePicker.selectedDate
         const data = {
             customerName: nameField.text,
