@@ -5,7 +5,7 @@
 #include "core/DatabaseManager.h"
 #include "repositories/RegionalSettingsRepository.h"
 #include "support/ChildProcess.h"
-#include "support/LogRecorder.h"
+#include "support/LogCapture.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 

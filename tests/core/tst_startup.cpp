@@ -145,7 +145,7 @@ void tst_Startup::aSetUpRunOpensNothing()
         Services services(app, manager, repositories);
         services.connectSignals();
         wired = services.users.userModel() != nullptr;
-        lines = LogCapture::lines();
+        lines = log.lines();
     }
 
     QCOMPARE(language, QLocale::system().name());
@@ -167,7 +167,7 @@ void tst_Startup::withoutTheScreensThereIsNoWindow()
         // This program holds no screens.
         QQmlApplicationEngine engine;
         loaded = loadMainWindow(engine);
-        lines = LogCapture::lines();
+        lines = log.lines();
     }
 
     QVERIFY(!loaded);

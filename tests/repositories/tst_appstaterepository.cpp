@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/AppStateRepository.h"
-#include "support/LogRecorder.h"
+#include "support/LogCapture.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/DatabaseManager.h"
 #include "repositories/CanvasItemRepository.h"
-#include "support/LogRecorder.h"
+#include "support/LogCapture.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 

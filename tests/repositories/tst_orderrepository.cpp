@@ -4,7 +4,7 @@
 
 #include "core/DatabaseManager.h"
 #include "support/ChildProcess.h"
-#include "support/LogRecorder.h"
+#include "support/LogCapture.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 

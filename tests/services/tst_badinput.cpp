@@ -199,15 +199,15 @@ void tst_BadInput::aVanishedPrinterStopsNoOrderAndNoPayment()
     const LogCapture log;
 
     const int session = m_store->sessionOf(orderAtT1());
-    const QStringList afterOrder = LogCapture::lines();
+    const QStringList afterOrder = log.lines();
     const bool paid = m_store->services.checkout.completeCheckout(session, {}, 0);
-    const QStringList beforeReceipt = LogCapture::lines();
+    const QStringList beforeReceipt = log.lines();
     const bool printed = m_store->services.checkout.printReceipt(session, false);
 
     QVERIFY(paid);
     QVERIFY(!printed);
     QVERIFY(!afterOrder.filter("printer: ").isEmpty());
-    QVERIFY(LogCapture::lines().size() > beforeReceipt.size());
+    QVERIFY(log.lines().size() > beforeReceipt.size());
     QCOMPARE(m_store->text("SELECT status FROM order_sessions"), QStringLiteral("paid"));
     QCOMPARE(m_store->text("SELECT status FROM orders"), QStringLiteral("served"));
     QCOMPARE(m_store->number("SELECT count(*) FROM receipt_snapshot"), 1);
@@ -226,7 +226,7 @@ void tst_BadInput::aLockedDatabaseFailsThePaymentWhole()
 
         QVERIFY(!m_store->services.checkout.completeCheckout(session, {}, 0));
 
-        QVERIFY(LogCapture::lines().contains("warning checkout: Rolling back transaction"));
+        QVERIFY(log.lines().contains("warning [checkout] Rolling back transaction"));
     }
     QCOMPARE(dumpOf(m_store->database), before);
 
@@ -245,7 +245,7 @@ void tst_BadInput::aLockedDatabaseTakesNoOrder()
 
         QCOMPARE(orderAtT1(), -1);
 
-        QVERIFY(!LogCapture::lines().isEmpty());
+        QVERIFY(!log.lines().isEmpty());
     }
     QCOMPARE(dumpOf(m_store->database), before);
     QVERIFY(orderAtT1() > 0);
@@ -263,7 +263,7 @@ void tst_BadInput::aFullDiskFailsThePaymentWhole()
 
         QVERIFY(!m_store->services.checkout.completeCheckout(session, {}, 0));
 
-        QVERIFY(!LogCapture::lines().filter("checkout: ").isEmpty());
+        QVERIFY(!log.lines().filter("[checkout] ").isEmpty());
     }
     QCOMPARE(dumpOf(m_store->database), before);
 
@@ -312,8 +312,8 @@ void tst_BadInput::aFileThatIsNoStoreIsNeitherOpenedNorRestored()
     QVERIFY(!m_store->services.databaseMaintenance.openDatabase(path));
     QVERIFY(!m_store->services.databaseMaintenance.restoreDatabase(path));
 
-    QVERIFY(LogCapture::lines().contains("warning database: Database is not a Zelvan database."));
-    QVERIFY(LogCapture::lines().contains("warning database: Database is not a Zelvan Database"));
+    QVERIFY(log.lines().contains("warning [database] Database is not a Zelvan database."));
+    QVERIFY(log.lines().contains("warning [database] Database is not a Zelvan Database"));
     QVERIFY(!QSettings().contains("database/path"));
     QVERIFY(!QSettings().contains("database/pendingRestore"));
     QCOMPARE(content(), before);

@@ -12,7 +12,7 @@
 
 namespace {
 const QString phone = QStringLiteral("0123456789");
-const QString rollingBack = QStringLiteral("warning checkout: Rolling back transaction");
+const QString rollingBack = QStringLiteral("warning [checkout] Rolling back transaction");
 } // namespace
 
 /// Each step of a payment failing by itself: a false answer, its lines in the log, and not one row
@@ -72,29 +72,29 @@ void tst_CheckoutFailures::aFailedStepUndoesThePayment_data()
     row("the session vanishes under the totals",
         "CREATE TRIGGER vanish AFTER UPDATE ON order_sessions "
         "BEGIN DELETE FROM order_sessions WHERE id = NEW.id; END",
-        {"warning checkout: Session not found: 1"});
+        {"warning [checkout] Session not found: 1"});
     row("no membership settings", "DELETE FROM membership_settings",
-        {"warning checkout: Failed applying membership"});
+        {"warning [checkout] Failed applying membership"});
     refusal("an order", "UPDATE ON orders WHEN OLD.id = 2",
-            {"warning database: update failed: <error>",
-             "warning checkout: Failed marking orders served"});
+            {"warning [database] update failed: <QSqlError>",
+             "warning [checkout] Failed marking orders served"});
     refusal("the lines", "UPDATE ON order_items WHEN OLD.order_id = 2",
-            {"warning database: markItemsByOrderId failed: <error>",
-             "warning checkout: Failed marking orders served"});
+            {"warning [database] markItemsByOrderId failed: <QSqlError>",
+             "warning [checkout] Failed marking orders served"});
     refusal("the session", "UPDATE ON order_sessions WHEN NEW.receipt_number IS NOT NULL",
-            {"warning database: Failed to update order session: <error>",
-             "warning checkout: Failed updating session"});
+            {"warning [database] Failed to update order session: <QSqlError>",
+             "warning [checkout] Failed updating session"});
     refusal("the paid mark", "UPDATE ON order_sessions WHEN NEW.status = 'paid'",
-            {"warning database: Failed to mark order as closed: <error>",
-             "warning checkout: Failed marking session paid"});
+            {"warning [database] Failed to mark order as closed: <QSqlError>",
+             "warning [checkout] Failed marking session paid"});
     refusal("the reservation", "UPDATE ON reservations",
-            {"warning database: Failed to update reservation: <error>",
-             "warning checkout: Failed freeing table"});
+            {"warning [database] Failed to update reservation: <QSqlError>",
+             "warning [checkout] Failed freeing table"});
     row("no restaurant", "DELETE FROM restaurant",
-        {"warning checkout: Failed creating receipt snapshot"});
+        {"warning [checkout] Failed creating receipt snapshot"});
     refusal("the snapshot", "INSERT ON receipt_snapshot",
-            {"warning database: Failed to create receipt snapshot: <error>",
-             "warning checkout: Failed creating receipt snapshot"});
+            {"warning [database] Failed to create receipt snapshot: <QSqlError>",
+             "warning [checkout] Failed creating receipt snapshot"});
 }
 
 void tst_CheckoutFailures::aFailedStepUndoesThePayment()
@@ -107,7 +107,7 @@ void tst_CheckoutFailures::aFailedStepUndoesThePayment()
 
     QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
 
-    QCOMPARE(LogCapture::lines(), lines + QStringList{rollingBack});
+    QCOMPARE(log.lines(), lines + QStringList{rollingBack});
     QCOMPARE(dumpOf(m_store->database), before);
     // The next payment can begin.
     QVERIFY(DatabaseManager::beginTransaction());
@@ -122,10 +122,9 @@ void tst_CheckoutFailures::aPaymentInsideAnotherTransactionIsRefused()
 
     QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
 
-    QCOMPARE(LogCapture::lines().size(), 2);
-    QVERIFY(LogCapture::lines().at(0).startsWith("warning database: Failed to begin transaction:"));
-    QCOMPARE(LogCapture::lines().at(1),
-             QStringLiteral("warning checkout: Failed to begin transaction"));
+    QCOMPARE(log.lines().size(), 2);
+    QVERIFY(log.lines().at(0).startsWith("warning [database] Failed to begin transaction:"));
+    QCOMPARE(log.lines().at(1), QStringLiteral("warning [checkout] Failed to begin transaction"));
     // The other transaction is not rolled back on its owner's behalf.
     QVERIFY(DatabaseManager::commitTransaction());
     QCOMPARE(dumpOf(m_store->database), before);
@@ -138,8 +137,8 @@ void tst_CheckoutFailures::anUnknownSessionIsRefused()
 
     QVERIFY(!m_store->services.checkout.completeCheckout(99, phone, 100));
 
-    QCOMPARE(LogCapture::lines(),
-             QStringList({"warning checkout: Failed to recalculate totals", rollingBack}));
+    QCOMPARE(log.lines(),
+             QStringList({"warning [checkout] Failed to recalculate totals", rollingBack}));
     QCOMPARE(dumpOf(m_store->database), before);
 }
 
@@ -152,8 +151,8 @@ void tst_CheckoutFailures::aRevokedMemberFailsThePaymentUntilThePhoneIsEmptied()
 
         QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 0));
 
-        QCOMPARE(LogCapture::lines(),
-                 QStringList({"warning checkout: Failed applying membership", rollingBack}));
+        QCOMPARE(log.lines(),
+                 QStringList({"warning [checkout] Failed applying membership", rollingBack}));
         QCOMPARE(dumpOf(m_store->database), before);
     }
     QVERIFY(m_store->services.checkout.completeCheckout(m_session, {}, 0));
@@ -168,8 +167,7 @@ void tst_CheckoutFailures::anOverlappingReservationFailsThePayment()
 
     QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
 
-    QCOMPARE(LogCapture::lines(),
-             QStringList({"warning checkout: Failed freeing table", rollingBack}));
+    QCOMPARE(log.lines(), QStringList({"warning [checkout] Failed freeing table", rollingBack}));
     QCOMPARE(dumpOf(m_store->database), before);
     // The signal went out before anything was decided.
     QCOMPARE(status, QList<QVariantList>({{m_table, "available"}}));
@@ -187,10 +185,9 @@ void tst_CheckoutFailures::aFailedCommitIsNotRolledBackHere()
 
     QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
 
-    QCOMPARE(LogCapture::lines().size(), 2);
-    QVERIFY(
-        LogCapture::lines().at(0).startsWith("warning database: Failed to commit transaction:"));
-    QCOMPARE(LogCapture::lines().at(1), QStringLiteral("warning checkout: Commit failed"));
+    QCOMPARE(log.lines().size(), 2);
+    QVERIFY(log.lines().at(0).startsWith("warning [database] Failed to commit transaction:"));
+    QCOMPARE(log.lines().at(1), QStringLiteral("warning [checkout] Commit failed"));
     // Still begun, so it can still be rolled back.
     QVERIFY(DatabaseManager::rollbackTransaction());
     QCOMPARE(dumpOf(m_store->database), before);
@@ -203,8 +200,8 @@ void tst_CheckoutFailures::aFailedUpdateOfTheTotalsIsNotLookedAt()
 
     QVERIFY(m_store->services.checkout.recalculateTotals(m_session));
 
-    QCOMPARE(LogCapture::lines(),
-             QStringList{"warning database: Failed to update order session: <error>"});
+    QCOMPARE(log.lines(),
+             QStringList{"warning [database] Failed to update order session: <QSqlError>"});
 }
 
 ZELVAN_TEST(tst_CheckoutFailures)

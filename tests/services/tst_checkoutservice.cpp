@@ -148,7 +148,7 @@ void tst_CheckoutService::aSecondPaymentIsASuccessThatChangesNothing()
 
     QVERIFY(m_store->services.checkout.completeCheckout(m_session, phone, 0));
 
-    QCOMPARE(LogCapture::lines(), QStringList{"warning checkout: Session already paid"});
+    QCOMPARE(log.lines(), QStringList{"warning [checkout] Session already paid"});
     QCOMPARE(dumpOf(m_store->database), before);
 }
 

@@ -189,10 +189,10 @@ void tst_MembershipService::aPhoneThatCannotBeEnrolledStillCountsAsPaid()
 
     QVERIFY(result.success);
     QCOMPARE(result.earnedPoints, 2);
-    QCOMPARE(
-        LogCapture::lines(),
-        QStringList({QStringLiteral("warning membership: Failed to insert membership: <error>"),
-                     QStringLiteral("warning membership: Invalid membership ID: -1")}));
+    QCOMPARE(log.lines(),
+             QStringList(
+                 {QStringLiteral("warning [membership] Failed to insert membership: <QSqlError>"),
+                  QStringLiteral("warning [membership] Invalid membership ID: -1")}));
 }
 
 void tst_MembershipService::redeemIsWrittenBeforeEarn()
@@ -236,10 +236,11 @@ void tst_MembershipService::failedWritesOfPointsAreNotExamined()
     QVERIFY(result.success);
     QCOMPARE(result.redeemedPoints, 100);
     QCOMPARE(result.earnedPoints, 2);
-    const QString adjust = QStringLiteral("warning membership: Failed to adjust points: <error>");
+    const QString adjust =
+        QStringLiteral("warning [membership] Failed to adjust points: <QSqlError>");
     const QString insert =
-        QStringLiteral("warning membership: Failed to insert membership transaction: <error>");
-    QCOMPARE(LogCapture::lines(), QStringList({adjust, insert, adjust, insert}));
+        QStringLiteral("warning [membership] Failed to insert membership transaction: <QSqlError>");
+    QCOMPARE(log.lines(), QStringList({adjust, insert, adjust, insert}));
 }
 
 void tst_MembershipService::paymentIsNotForTheScreens()

@@ -122,9 +122,9 @@ void tst_OrderLines::unknownAndUnavailableItemsAreSkipped()
     const int order = m_store->orderTakeaway(
         {TestStore::line(99), TestStore::line(gone), TestStore::line(m_soup)});
 
-    QCOMPARE(LogCapture::lines(),
-             QStringList({QStringLiteral("warning order: Menu item not found: 99"),
-                          QStringLiteral("warning order: Menu item unavailable: %1").arg(gone)}));
+    QCOMPARE(log.lines(),
+             QStringList({QStringLiteral("warning [order] Menu item not found: 99"),
+                          QStringLiteral("warning [order] Menu item unavailable: %1").arg(gone)}));
     const QList<OrderItem> items = m_store->repositories.orderItems.getOrderItemsByOrderId(order);
     QCOMPARE(items.size(), 1);
     QCOMPARE(items[0].item_id, m_soup);

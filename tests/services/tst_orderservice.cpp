@@ -63,8 +63,8 @@ void tst_OrderService::anEmptyOrderIsRefused()
 
     QCOMPARE(m_store->orderAtTable(m_table, {}), -1);
 
-    QCOMPARE(LogCapture::lines(),
-             QStringList{QStringLiteral("warning order: createOrder failed: empty order")});
+    QCOMPARE(log.lines(),
+             QStringList{QStringLiteral("warning [order] createOrder failed: empty order")});
     QCOMPARE(dumpOf(m_store->database), before);
     QCOMPARE(created.count(), 0);
 }
@@ -172,11 +172,11 @@ void tst_OrderService::aDineInOrderWithoutATableIsRefused()
         m_store->services.orders.createOrder(QStringLiteral("dine_in"), {TestStore::line(m_soup)}),
         -1);
 
-    QCOMPARE(
-        LogCapture::lines(),
-        QStringList({QStringLiteral("warning database: Failed to create order session: <error>"),
-                     QStringLiteral("critical default: OrderSession creation failed, "
-                                    "aborting order creation")}));
+    QCOMPARE(log.lines(),
+             QStringList(
+                 {QStringLiteral("warning [database] Failed to create order session: <QSqlError>"),
+                  QStringLiteral("critical [default] OrderSession creation failed, "
+                                 "aborting order creation")}));
     QCOMPARE(status, QList<QVariantList>({{0, QStringLiteral("occupied")}}));
     QCOMPARE(dumpOf(m_store->database), before);
     QCOMPARE(created.count(), 0);
@@ -190,8 +190,8 @@ void tst_OrderService::aTableStaysOccupiedWhenItsSessionFails()
 
     QCOMPARE(m_store->orderAtTable(m_table, {TestStore::line(m_soup)}), -1);
 
-    QCOMPARE(LogCapture::lines().last(),
-             QStringLiteral("critical default: OrderSession creation failed, aborting order "
+    QCOMPARE(log.lines().last(),
+             QStringLiteral("critical [default] OrderSession creation failed, aborting order "
                             "creation"));
     QCOMPARE(m_store->tableStatus(m_table), QStringLiteral("occupied"));
     QCOMPARE(m_store->reservationStatus(reservation), QStringLiteral("booked"));
@@ -206,11 +206,11 @@ void tst_OrderService::aTakeawayWhoseSessionFailsIsRefused()
 
     QCOMPARE(m_store->orderTakeaway({TestStore::line(m_soup)}), -1);
 
-    QCOMPARE(
-        LogCapture::lines(),
-        QStringList({QStringLiteral("warning database: Failed to create order session: <error>"),
-                     QStringLiteral("critical default: OrderSession creation failed, "
-                                    "aborting order creation")}));
+    QCOMPARE(log.lines(),
+             QStringList(
+                 {QStringLiteral("warning [database] Failed to create order session: <QSqlError>"),
+                  QStringLiteral("critical [default] OrderSession creation failed, "
+                                 "aborting order creation")}));
     QCOMPARE(dumpOf(m_store->database), before);
 }
 
@@ -224,10 +224,10 @@ void tst_OrderService::aFailedOrderRowIsNotDetected()
 
     QCOMPARE(order, 0);
     const QString line =
-        QStringLiteral("warning database: [OrderItemRepository] create failed: <error>");
-    QCOMPARE(LogCapture::lines(),
-             QStringList({QStringLiteral("critical default: Failed to create order: <error>"), line,
-                          line}));
+        QStringLiteral("warning [database] [OrderItemRepository] create failed: <QSqlError>");
+    QCOMPARE(log.lines(),
+             QStringList({QStringLiteral("critical [default] Failed to create order: <error text>"),
+                          line, line}));
     QCOMPARE(created, QList<QVariantList>({{0}}));
     QCOMPARE(m_store->number("SELECT COUNT(*) FROM order_sessions"), qint64(1));
 }

@@ -138,9 +138,9 @@ void tst_OrderTickets::aFailedPrintIsLoggedAndTheNextPrinterTried()
 
     const int order = m_store->orderTakeaway({TestStore::line(m_soup)});
 
-    QCOMPARE(LogCapture::lines(),
-             QStringList({"warning printer: Failed to open printer: \"Kitchen\" error: 1801",
-                          "warning printer: Kitchen print failed."}));
+    QCOMPARE(log.lines(),
+             QStringList({"warning [printer] Failed to open printer: \"Kitchen\" error: 1801",
+                          "warning [printer] Kitchen print failed."}));
     QCOMPARE(m_store->spooler.documentsFor("Bar").size(), 1);
     QCOMPARE(created, QList<QVariantList>({{order}}));
 }
@@ -190,8 +190,8 @@ void tst_OrderTickets::theManualTicketAnswersFalseWhenPrintingFails()
     QVERIFY(!m_store->services.orders.printKitchenTicket(order));
 
     // Only the spool's own line.
-    QCOMPARE(LogCapture::lines(),
-             QStringList{"warning printer: Failed to open printer: \"Kitchen\" error: 1801"});
+    QCOMPARE(log.lines(),
+             QStringList{"warning [printer] Failed to open printer: \"Kitchen\" error: 1801"});
     QCOMPARE(m_store->spooler.documentsFor("Bar").size(), 1);
 }
 
@@ -201,12 +201,12 @@ void tst_OrderTickets::theManualTicketRefuses_data()
     QTest::addColumn<QString>("line");
 
     QTest::newRow("an unknown order") << QStringLiteral("DELETE FROM orders")
-                                      << QStringLiteral("warning order: order not found 1");
+                                      << QStringLiteral("warning [order] order not found 1");
     QTest::newRow("an order without a session")
         << QStringLiteral("DELETE FROM order_sessions")
-        << QStringLiteral("warning order: session not found 1");
+        << QStringLiteral("warning [order] session not found 1");
     QTest::newRow("an order without lines") << QStringLiteral("DELETE FROM order_items")
-                                            << QStringLiteral("warning order: no items found");
+                                            << QStringLiteral("warning [order] no items found");
 }
 
 void tst_OrderTickets::theManualTicketRefuses()
@@ -220,7 +220,7 @@ void tst_OrderTickets::theManualTicketRefuses()
 
     QVERIFY(!m_store->services.orders.printKitchenTicket(order));
 
-    QCOMPARE(LogCapture::lines(), QStringList{line});
+    QCOMPARE(log.lines(), QStringList{line});
     QCOMPARE(m_store->spooler.calls(), QStringList());
 }
 

@@ -15,7 +15,7 @@ const QString dineIn = QStringLiteral("dine_in");
 const QString takeaway = QStringLiteral("takeaway");
 const QString tableIdKey = QStringLiteral("tableId");
 const QString notesKey = QStringLiteral("notes");
-const QString commitFailed = QStringLiteral("critical default: updateOrder commit failed");
+const QString commitFailed = QStringLiteral("critical [default] updateOrder commit failed");
 
 /// Registers the connection that the program never registers, for as long as the object lives.
 class DefaultConnection final
@@ -96,7 +96,7 @@ void tst_OrderUpdate::anUpdateWithoutItemsIsRefused()
 
     QCOMPARE(m_store->services.orders.updateOrder(m_order, takeaway, {}, {}), -1);
 
-    QCOMPARE(LogCapture::lines(), QStringList{"warning order: updateOrder failed: empty items"});
+    QCOMPARE(log.lines(), QStringList{"warning [order] updateOrder failed: empty items"});
     QCOMPARE(dumpOf(m_store->database), before);
 }
 
@@ -107,8 +107,7 @@ void tst_OrderUpdate::anUnknownOrderIsRefused()
 
     QCOMPARE(m_store->services.orders.updateOrder(99, takeaway, {TestStore::line(m_soup)}, {}), -1);
 
-    QCOMPARE(LogCapture::lines(),
-             QStringList{"warning order: updateOrder failed: order not found"});
+    QCOMPARE(log.lines(), QStringList{"warning [order] updateOrder failed: order not found"});
     QCOMPARE(dumpOf(m_store->database), before);
 }
 
@@ -122,8 +121,7 @@ void tst_OrderUpdate::anOrderWhoseSessionIsGoneIsRefused()
     QCOMPARE(m_store->services.orders.updateOrder(m_order, takeaway, {TestStore::line(m_soup)}, {}),
              -1);
 
-    QCOMPARE(LogCapture::lines(),
-             QStringList{"warning order: updateOrder failed: session not found"});
+    QCOMPARE(log.lines(), QStringList{"warning [order] updateOrder failed: session not found"});
     QCOMPARE(dumpOf(m_store->database), before);
 }
 
@@ -139,7 +137,7 @@ void tst_OrderUpdate::anUpdateAnswersMinusOneThoughItsWritesStand()
                                              {{tableIdKey, m_table}, {notesKey, "window"}});
 
     QCOMPARE(answer, -1);
-    QCOMPARE(LogCapture::lines(), QStringList{commitFailed});
+    QCOMPARE(log.lines(), QStringList{commitFailed});
     QCOMPARE(updated.count(), 0);
     QCOMPARE(created.count(), 0);
     QCOMPARE(m_store->number("SELECT quantity FROM order_items"), qint64(3));
@@ -192,9 +190,9 @@ void tst_OrderUpdate::skippedLinesAreToldInTheMenusLog()
         m_order, dineIn, {TestStore::line(99), TestStore::line(gone), TestStore::line(m_soup)},
         {{tableIdKey, m_table}});
 
-    QCOMPARE(LogCapture::lines(),
-             QStringList({"warning menu: Menu item not found: 99",
-                          QStringLiteral("warning menu: Menu unavailable: %1").arg(gone),
+    QCOMPARE(log.lines(),
+             QStringList({"warning [menu] Menu item not found: 99",
+                          QStringLiteral("warning [menu] Menu unavailable: %1").arg(gone),
                           commitFailed}));
     QCOMPARE(m_store->number("SELECT COUNT(*) FROM order_items"), qint64(1));
 }
@@ -365,9 +363,9 @@ void tst_OrderUpdate::aFailedPrintAfterACommitIsLoggedWithoutFullStop()
         m_order, dineIn, {TestStore::line(m_soup)}, {{tableIdKey, m_table}});
 
     QCOMPARE(answer, m_order);
-    QCOMPARE(LogCapture::lines(),
-             QStringList({"warning printer: Failed to open printer: \"Kitchen\" error: 1801",
-                          "warning printer: Kitchen print failed"}));
+    QCOMPARE(log.lines(),
+             QStringList({"warning [printer] Failed to open printer: \"Kitchen\" error: 1801",
+                          "warning [printer] Kitchen print failed"}));
 }
 
 ZELVAN_TEST(tst_OrderUpdate)

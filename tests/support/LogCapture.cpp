@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "support/LogCapture.h"
 
+#include <QMutex>
+#include <QMutexLocker>
 #include <QRegularExpression>
 
 namespace {
-QStringList &captured()
-{
-    static QStringList lines;
-    return lines;
-}
+QMutex mutex;
+QStringList captured;
 
 QString levelName(QtMsgType type)
 {
@@ -28,22 +27,30 @@ QString levelName(QtMsgType type)
     return {};
 }
 
-void keep(QtMsgType type, const QMessageLogContext &context, const QString &message)
+/// SQLite's own words differ between its versions, so they are not compared.
+QString withoutErrorWords(QString text)
 {
-    static const QRegularExpression fullError(QStringLiteral("QSqlError\\(.*\\)$"));
-    static const QRegularExpression errorText(QStringLiteral("\"[^\"]*(fetch row|statement)\"$"));
-    QString text = message;
-    text.replace(fullError, QStringLiteral("<error>"));
-    text.replace(errorText, QStringLiteral("<error>"));
-    captured().append(QStringLiteral("%1 %2: %3")
-                          .arg(levelName(type), QString::fromLatin1(context.category), text));
+    static const QRegularExpression wholeError(QStringLiteral("QSqlError\\(.*\\)$"));
+    static const QRegularExpression errorText(
+        QStringLiteral("\"[^\"]*(Unable to|Parameter count|Driver not|Error opening)[^\"]*\"$"));
+    text.replace(wholeError, QStringLiteral("<QSqlError>"));
+    text.replace(errorText, QStringLiteral("<error text>"));
+    return text;
+}
+
+void capture(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const QMutexLocker locker(&mutex);
+    captured.append(
+        QStringLiteral("%1 [%2] %3")
+            .arg(levelName(type), QString::fromUtf8(context.category), withoutErrorWords(message)));
 }
 } // namespace
 
 LogCapture::LogCapture()
 {
-    captured().clear();
-    m_previous = qInstallMessageHandler(keep);
+    captured.clear();
+    m_previous = qInstallMessageHandler(capture);
 }
 
 LogCapture::~LogCapture()
@@ -51,7 +58,15 @@ LogCapture::~LogCapture()
     qInstallMessageHandler(m_previous);
 }
 
-QStringList LogCapture::lines()
+QStringList LogCapture::lines() const
 {
-    return captured();
+    const QMutexLocker locker(&mutex);
+    return captured;
+}
+
+QString logOf(const std::function<void()> &operation)
+{
+    const LogCapture log;
+    operation();
+    return log.lines().join(QLatin1Char('\n'));
 }

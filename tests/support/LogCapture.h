@@ -5,8 +5,10 @@
 #include <QLoggingCategory>
 #include <QStringList>
 
+#include <functional>
+
 /// Takes over the log for as long as the object lives, so that a test can compare all of it: order,
-/// level, category and text.
+/// level, category and text. No message reaches anybody else, of whatever thread. One at a time.
 class LogCapture final
 {
 public:
@@ -14,10 +16,14 @@ public:
     ~LogCapture();
     Q_DISABLE_COPY_MOVE(LogCapture)
 
-    /// One entry a line, as in `warning checkout: Commit failed`. An SQL error at its end reads
-    /// `<error>`, since its words are the driver's.
-    [[nodiscard]] static QStringList lines();
+    /// One entry a message, as in "warning [checkout] Commit failed". An error at its end stands as
+    /// "<QSqlError>" when it was streamed whole and as "<error text>" when only its text was.
+    [[nodiscard]] QStringList lines() const;
 
 private:
     QtMessageHandler m_previous;
 };
+
+/// What an operation left in the log: the lines of a LogCapture joined by line ends, empty for
+/// nothing.
+[[nodiscard]] QString logOf(const std::function<void()> &operation);

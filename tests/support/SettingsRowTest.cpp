@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "support/SettingsRowTest.h"
 
-#include "support/LogRecorder.h"
+#include "support/LogCapture.h"
 #include "support/TestDatabase.h"
 
 void SettingsRowTest::anEmptyTableYieldsNothing()
