@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 #include "services/OrderService.h"
-#include "support/MovedClock.h"
+#include "support/ChildProcess.h"
 #include "support/TestStore.h"
 #include "support/ZelvanTest.h"
 
@@ -137,23 +137,20 @@ void tst_OpenOrders::linesAreInCurrencyUnits()
 
 void tst_OpenOrders::ordersAreListedWhereBothClocksShowTheSameDay_data()
 {
-    QTest::addColumn<QByteArray>("localTime");
-    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QString>("localTime");
+    QTest::addColumn<QString>("zone");
 
-    QTest::newRow("Tokyo at ten") << QByteArray("2026-11-20 10:00:00") << QByteArray(tokyo);
-    QTest::newRow("Tokyo before midnight")
-        << QByteArray("2026-11-20 23:50:00") << QByteArray(tokyo);
-    QTest::newRow("New York after midnight")
-        << QByteArray("2026-11-20 00:10:00") << QByteArray(newYork);
-    QTest::newRow("New York in the afternoon")
-        << QByteArray("2026-11-20 18:00:00") << QByteArray(newYork);
+    QTest::newRow("Tokyo at ten") << "2026-11-20 10:00:00" << tokyo;
+    QTest::newRow("Tokyo before midnight") << "2026-11-20 23:50:00" << tokyo;
+    QTest::newRow("New York after midnight") << "2026-11-20 00:10:00" << newYork;
+    QTest::newRow("New York in the afternoon") << "2026-11-20 18:00:00" << newYork;
 }
 
 void tst_OpenOrders::ordersAreListedWhereBothClocksShowTheSameDay()
 {
-    QFETCH(QByteArray, localTime);
-    QFETCH(QByteArray, zone);
-    if (movedTo(localTime.constData(), zone.constData())) {
+    QFETCH(QString, localTime);
+    QFETCH(QString, zone);
+    if (movedTo(localTime, zone)) {
         return;
     }
     m_store->orderTakeaway({TestStore::line(m_soup)});

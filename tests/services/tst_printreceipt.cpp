@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 #include "services/CheckoutService.h"
+#include "support/ChildProcess.h"
 #include "support/DatabaseDump.h"
-#include "support/MovedClock.h"
 #include "support/TestStore.h"
 #include "support/ZelvanTest.h"
 

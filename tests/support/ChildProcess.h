@@ -7,8 +7,8 @@
 #include <QString>
 #include <QStringList>
 
-/// Runs a function registered with ZELVAN_TEST_CHILD in a process of its own, for what a test
-/// cannot do to itself: dying, another clock, another language.
+/// Runs the test program once more in a process of its own, for what a test cannot do to itself:
+/// dying, another clock, another language.
 class ChildProcess final
 {
 public:
@@ -20,7 +20,10 @@ public:
         QByteArray errors;
     };
 
+    /// Runs a function registered with ZELVAN_TEST_CHILD.
     explicit ChildProcess(const QString &function, const QStringList &arguments = {});
+    /// Runs the current test function with its current row.
+    [[nodiscard]] static ChildProcess ofCurrentTest();
 
     /// Freezes the child's clock at a local time, "yyyy-MM-dd HH:mm:ss". The child may move it by
     /// setting FAKETIME anew.
@@ -33,8 +36,16 @@ public:
     [[nodiscard]] Result run() const;
 
 private:
+    explicit ChildProcess(const QStringList &arguments);
+
     QString m_program;
     QStringList m_arguments;
     QString m_localTime;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
 };
+
+/// Runs the current test function, with its current row, once more in a process whose clock stands
+/// still at `localTime` ("yyyy-MM-dd HH:mm:ss") of `timeZone`, and fails the test when that process
+/// does. True in the caller, which then returns; false inside that other process, which does the
+/// test.
+[[nodiscard]] bool movedTo(const QString &localTime, const QString &timeZone);
