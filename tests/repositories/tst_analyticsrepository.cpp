@@ -2,18 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/AnalyticsRepository.h"
 
-#include "core/DatabaseManager.h"
 #include "support/ChildProcess.h"
 #include "support/LogCapture.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 
 #include <QDate>
-#include <QDateTime>
-#include <QSqlQuery>
-#include <QTemporaryDir>
-
-#include <cstdio>
 
 namespace {
 struct Fixture
@@ -55,26 +49,6 @@ const QString lastSecondOfToday =
     QStringLiteral("DATETIME('now', 'start of day', '+86399 seconds')");
 const QString yesterday = QStringLiteral("DATETIME('now', 'start of day', '-1 second')");
 
-/// Sells for 1000 cents now and prints the last two of the seven days.
-int sellAndListDays(const QStringList &arguments)
-{
-    if (!DatabaseManager::initialize(arguments.at(0))) {
-        return 1;
-    }
-    QSqlQuery(
-        QStringLiteral("INSERT INTO order_sessions (display_number, order_type, status, total, "
-                       "closed_at) VALUES (1, 'takeaway', 'paid', 1000, CURRENT_TIMESTAMP)"),
-        DatabaseManager::connection());
-    const QList<DayRevenue> days =
-        AnalyticsRepository(DatabaseManager::connection()).revenueLastSevenDays();
-    for (const DayRevenue &day : days.mid(5)) {
-        std::printf("%s %d,", qPrintable(day.day), static_cast<int>(day.amount));
-    }
-    return 0;
-}
-
-ZELVAN_TEST_CHILD(sellAndListDays)
-
 QString failure(const char *operation)
 {
     return QStringLiteral("warning [database] AnalyticsRepository::%1 failed: <QSqlError>")
@@ -87,7 +61,6 @@ class tst_AnalyticsRepository : public ZelvanTest
     Q_OBJECT
 
 private slots:
-    void initTestCase() { qputenv("TZ", "UTC"); }
     void aDayWithoutSalesIsAllZeroes();
     void theDayIsTheUtcDay();
     void anUnpaidOrUnclosedSessionIsNoSale();
@@ -209,6 +182,10 @@ void tst_AnalyticsRepository::hoursWithSalesComeAscending()
 
 void tst_AnalyticsRepository::theLastSevenDaysAreFilledUpWithZeroes()
 {
+    // Where local and UTC days are the same.
+    if (movedTo("2026-11-20 12:00:00", "UTC")) {
+        return;
+    }
     Fixture f;
     const auto noonOf = [](int daysAgo) {
         return QStringLiteral("DATETIME('now', 'start of day', '-%1 days', '+12 hours')")
@@ -221,8 +198,7 @@ void tst_AnalyticsRepository::theLastSevenDaysAreFilledUpWithZeroes()
 
     const QList<DayRevenue> days = f.analytics.revenueLastSevenDays();
 
-    // This class runs where local and UTC days are the same.
-    const QDate last = QDateTime::currentDateTimeUtc().date();
+    const QDate last(2026, 11, 20);
     QCOMPARE(days.size(), 7);
     for (int index = 0; index < 7; ++index) {
         QCOMPARE(days.at(index).day, last.addDays(index - 6).toString(Qt::ISODate));
@@ -237,36 +213,39 @@ void tst_AnalyticsRepository::localDaysAreWalkedOverSumsOfUtcDays_data()
 {
     QTest::addColumn<QString>("zone");
     QTest::addColumn<QString>("localTime");
-    QTest::addColumn<QByteArray>("days");
+    QTest::addColumn<QStringList>("lastDays");
 
     QTest::newRow("same day") << "Asia/Tokyo"
                               << "2026-03-05 12:00:00"
-                              << QByteArray("2026-03-04 0,2026-03-05 1000,");
+                              << QStringList({"2026-03-04 0", "2026-03-05 1000"});
     // East of UTC the sale of the first hours stands under yesterday.
     QTest::newRow("east after midnight")
         << "Asia/Tokyo"
-        << "2026-03-05 00:30:00" << QByteArray("2026-03-04 1000,2026-03-05 0,");
+        << "2026-03-05 00:30:00" << QStringList({"2026-03-04 1000", "2026-03-05 0"});
     // West of UTC the sale of the last hours stands under tomorrow, which is not listed.
     QTest::newRow("west before midnight")
         << "America/New_York"
-        << "2026-03-04 22:00:00" << QByteArray("2026-03-03 0,2026-03-04 0,");
+        << "2026-03-04 22:00:00" << QStringList({"2026-03-03 0", "2026-03-04 0"});
 }
 
 void tst_AnalyticsRepository::localDaysAreWalkedOverSumsOfUtcDays()
 {
     QFETCH(QString, zone);
     QFETCH(QString, localTime);
-    QFETCH(QByteArray, days);
-    const QTemporaryDir folder;
-    ChildProcess child(QStringLiteral("sellAndListDays"),
-                       {folder.filePath(QStringLiteral("a.db"))});
-    child.setEnvironment(QStringLiteral("TZ"), zone);
-    child.atTime(localTime);
+    QFETCH(QStringList, lastDays);
+    if (movedTo(localTime, zone)) {
+        return;
+    }
+    Fixture f;
+    f.sale(QStringLiteral("CURRENT_TIMESTAMP"), 1000);
 
-    const ChildProcess::Result result = child.run();
+    const QList<DayRevenue> days = f.analytics.revenueLastSevenDays();
 
-    QVERIFY2(result.exitCode == 0, result.errors.constData());
-    QCOMPARE(result.output, days);
+    QStringList told;
+    for (const DayRevenue &day : days.mid(5)) {
+        told.append(QStringLiteral("%1 %2").arg(day.day).arg(day.amount));
+    }
+    QCOMPARE(told, lastDays);
 }
 
 void tst_AnalyticsRepository::everyFailureIsLogged()
