@@ -10,7 +10,8 @@
 
 #include <memory>
 
-/// Floors, drawing, saving and deleting. What a load shows is tst_FloorPlanMerge's.
+/// Floors and the states of their tables. Drawing is tst_FloorPlanDrawing's, what a load shows
+/// tst_FloorPlanMerge's.
 class tst_FloorPlanService : public ZelvanTest
 {
     Q_OBJECT
@@ -35,21 +36,6 @@ private slots:
     void aFloorThatIsNotShownIsDeletedInTheStore();
     void aFloorThatCannotBeDeletedLosesItsTables();
 
-    void aTableIsStoredAtOnceAndItsDrawingWaitsForTheSave();
-    void aTableHasItsDefaults();
-    void aTableWithABlankNameFailsAtTheSave();
-    void anItemIsOnlyDrawn();
-    void anItemHasItsDefaults();
-    void aNullKeyIsAnAbsentOne();
-
-    void aSaveKeepsTablesAndRenewsRows();
-    void anEmptyCanvasEmptiesTheFloor();
-    void clearingTouchesOnlyTheModel();
-
-    void deletingATableIsNotUndoneByLeaving();
-    void aDeletedWallComesBackWithoutASave();
-    void aRowOutOfRangeDeletesNothing();
-
     void aStatusReachesTheCanvasAtOnce();
     void aStatusWithoutACanvasIsLogged();
 
@@ -59,8 +45,6 @@ private:
     {
         return m_database->value(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)).toInt();
     }
-    /// Draws a table on the shown floor; its id in `tables`.
-    int drawTable(const QString &label);
 
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<FloorStore> m_store;
@@ -77,13 +61,6 @@ void tst_FloorPlanService::cleanup()
 {
     m_store.reset();
     m_database.reset();
-}
-
-int tst_FloorPlanService::drawTable(const QString &label)
-{
-    service().createTableItem({{"label", label}, {"capacity", 4}});
-    const CanvasItemModel &model = *service().canvasModel();
-    return ModelRows::value(model, model.rowCount() - 1, "table_id").toInt();
 }
 
 void tst_FloorPlanService::itsSignaturesAreThoseTheScreensCall()
@@ -203,11 +180,11 @@ void tst_FloorPlanService::aFailedUpdateLeavesTheModel()
 void tst_FloorPlanService::aFloorGoesWithItsItemsAndTables()
 {
     QCOMPARE(service().createFloor("Hall"), 1);
-    drawTable("A1");
+    m_store->drawTable("A1");
     service().addItem({{"type", "wall"}});
     QVERIFY(service().saveCanvas(1));
     // Drawn and not saved: the store decides what belongs to the floor, not the screen.
-    drawTable("A2");
+    m_store->drawTable("A2");
     QSignalSpy tablesChanged(&m_store->tableService, &TableService::tablesChanged);
 
     QVERIFY(service().deleteFloor(1));
@@ -234,7 +211,7 @@ void tst_FloorPlanService::aFloorThatIsNotShownIsDeletedInTheStore()
 void tst_FloorPlanService::aFloorThatCannotBeDeletedLosesItsTables()
 {
     QCOMPARE(service().createFloor("Hall"), 1);
-    drawTable("A1");
+    m_store->drawTable("A1");
     service().addItem({{"type", "wall"}});
     QVERIFY(service().saveCanvas(1));
     m_database->run("CREATE TRIGGER refuse BEFORE DELETE ON floors "
@@ -249,223 +226,9 @@ void tst_FloorPlanService::aFloorThatCannotBeDeletedLosesItsTables()
     QCOMPARE(service().floorModel()->rowCount(), 1);
 }
 
-void tst_FloorPlanService::aTableIsStoredAtOnceAndItsDrawingWaitsForTheSave()
-{
-    QCOMPARE(service().createFloor("Hall"), 1);
-
-    service().createTableItem({{"floor_id", 1},
-                               {"type", "wall"},
-                               {"label", " A1 "},
-                               {"capacity", 6},
-                               {"x", 100},
-                               {"y", 50},
-                               {"width", 140},
-                               {"height", 80},
-                               {"rotation", 90},
-                               {"color", "#111111"},
-                               {"border_color", "#222222"},
-                               {"border_width", 3},
-                               {"opacity", 0.5},
-                               {"z_order", 4},
-                               {"metadata", R"({"table_type":"rectangle"})"}});
-
-    const CanvasItem item = service().canvasModel()->items().constFirst();
-    QCOMPARE(item.id, -1);
-    QCOMPARE(item.floor_id, 1);
-    QCOMPARE(item.type, QStringLiteral("table"));
-    QCOMPARE(item.table_id, std::optional(1));
-    QCOMPARE(item.label, std::optional(QStringLiteral(" A1 ")));
-    QCOMPARE(item.capacity, std::optional(6));
-    QCOMPARE(item.status, std::optional(QStringLiteral("available")));
-    QCOMPARE(QRectF(item.x, item.y, item.width, item.height), QRectF(100, 50, 140, 80));
-    QCOMPARE(item.rotation, 90.0);
-    QCOMPARE(item.color + item.border_color, QStringLiteral("#111111#222222"));
-    QCOMPARE(item.border_width, 3.0);
-    QCOMPARE(item.opacity, 0.5);
-    QCOMPARE(item.z_order, 4);
-    QCOMPARE(item.metadata, std::optional(QStringLiteral(R"({"table_type":"rectangle"})")));
-    QCOMPARE(m_database->value("SELECT table_name || capacity || status FROM tables").toString(),
-             QStringLiteral("A16available"));
-    QCOMPARE(count("canvas_items"), 0);
-}
-
-void tst_FloorPlanService::aTableHasItsDefaults()
-{
-    service().createTableItem({{"label", "A1"}, {"capacity", 1}});
-
-    const CanvasItem item = service().canvasModel()->items().constFirst();
-    QCOMPARE(item.floor_id, 0);
-    QCOMPARE(QRectF(item.x, item.y, item.width, item.height), QRectF(0, 0, 0, 0));
-    QCOMPARE(item.rotation, 0.0);
-    QCOMPARE(item.color, QStringLiteral("#444"));
-    QCOMPARE(item.border_color, QStringLiteral("#ffffff"));
-    QCOMPARE(item.border_width, 1.0);
-    QCOMPARE(item.opacity, 1.0);
-    QCOMPARE(item.z_order, 0);
-    QVERIFY(!item.metadata);
-}
-
-void tst_FloorPlanService::aTableWithABlankNameFailsAtTheSave()
-{
-    QCOMPARE(service().createFloor("Hall"), 1);
-    service().addItem({{"type", "wall"}, {"label", "stored"}});
-    QVERIFY(service().saveCanvas(1));
-
-    expectLog(QtWarningMsg, "Cannot add empty table name");
-    service().createTableItem({{"label", "   "}, {"capacity", 4}});
-    QCOMPARE(ModelRows::value(*service().canvasModel(), 1, "table_id"), QVariant(-1));
-    expectLog(QtWarningMsg, "Insert failed:");
-    QVERIFY(!service().saveCanvas(1));
-
-    QCOMPARE(m_database->value("SELECT group_concat(label) FROM canvas_items").toString(),
-             QStringLiteral("stored"));
-    QCOMPARE(count("tables"), 0);
-}
-
-void tst_FloorPlanService::anItemIsOnlyDrawn()
-{
-    service().addItem({{"floor_id", 9},
-                       {"type", "table"},
-                       {"table_id", 5},
-                       {"label", "sign"},
-                       {"x", 150},
-                       {"y", 160},
-                       {"width", 170},
-                       {"height", 12},
-                       {"rotation", 45},
-                       {"color", "#111111"},
-                       {"border_color", "#222222"},
-                       {"border_width", 7},
-                       {"opacity", 0.5},
-                       {"z_order", 4},
-                       {"metadata", "{}"}});
-
-    const CanvasItem item = service().canvasModel()->items().constFirst();
-    QCOMPARE(item.id, -1);
-    QCOMPARE(item.type, QStringLiteral("table"));
-    QCOMPARE(item.table_id, std::optional(5));
-    QCOMPARE(item.label, std::optional(QStringLiteral("sign")));
-    QCOMPARE(QRectF(item.x, item.y, item.width, item.height), QRectF(150, 160, 170, 12));
-    QCOMPARE(item.rotation, 45.0);
-    QCOMPARE(item.color + item.border_color, QStringLiteral("#111111#222222"));
-    QCOMPARE(item.border_width, 1.0);
-    QCOMPARE(item.opacity, 0.5);
-    QCOMPARE(item.z_order, 4);
-    QCOMPARE(item.metadata, std::optional(QStringLiteral("{}")));
-    QVERIFY(!item.capacity && !item.status);
-    QCOMPARE(count("tables"), 0);
-}
-
-void tst_FloorPlanService::anItemHasItsDefaults()
-{
-    service().addItem({});
-
-    const CanvasItem item = service().canvasModel()->items().constFirst();
-    QCOMPARE(item.type, QString());
-    QVERIFY(!item.table_id);
-    QCOMPARE(item.label, std::optional(QString("")));
-    QCOMPARE(QRectF(item.x, item.y, item.width, item.height), QRectF(0, 0, 0, 0));
-    QCOMPARE(item.color, QStringLiteral("#444"));
-    QCOMPARE(item.border_color, QStringLiteral("#ffffff"));
-    QCOMPARE(item.opacity, 1.0);
-    QVERIFY(!item.metadata);
-}
-
-void tst_FloorPlanService::aNullKeyIsAnAbsentOne()
-{
-    service().addItem({{"type", "wall"},
-                       {"table_id", QVariant::fromValue(nullptr)},
-                       {"metadata", QVariant::fromValue(nullptr)}});
-    service().createTableItem(
-        {{"label", "A1"}, {"capacity", 4}, {"metadata", QVariant::fromValue(nullptr)}});
-
-    const QList<CanvasItem> items = service().canvasModel()->items();
-    QVERIFY(!items.at(0).table_id);
-    QVERIFY(!items.at(0).metadata);
-    QVERIFY(!items.at(1).metadata);
-}
-
-void tst_FloorPlanService::aSaveKeepsTablesAndRenewsRows()
-{
-    QCOMPARE(service().createFloor("Hall"), 1);
-    const int table = drawTable("A1");
-    QVERIFY(service().saveCanvas(1));
-    const int firstRow = m_database->value("SELECT id FROM canvas_items").toInt();
-
-    QVERIFY(service().saveCanvas(1));
-
-    QVERIFY(m_database->value("SELECT id FROM canvas_items").toInt() > firstRow);
-    QCOMPARE(m_database->value("SELECT table_id FROM canvas_items").toInt(), table);
-    QCOMPARE(count("tables"), 1);
-}
-
-void tst_FloorPlanService::anEmptyCanvasEmptiesTheFloor()
-{
-    QCOMPARE(service().createFloor("Hall"), 1);
-    service().addItem({{"type", "wall"}});
-    QVERIFY(service().saveCanvas(1));
-
-    service().clearCanvas();
-    QVERIFY(service().saveCanvas(1));
-
-    QCOMPARE(count("canvas_items"), 0);
-}
-
-void tst_FloorPlanService::clearingTouchesOnlyTheModel()
-{
-    QCOMPARE(service().createFloor("Hall"), 1);
-    drawTable("A1");
-    QVERIFY(service().saveCanvas(1));
-
-    service().clearCanvas();
-
-    QCOMPARE(service().canvasModel()->rowCount(), 0);
-    QCOMPARE(count("canvas_items"), 1);
-    QCOMPARE(count("tables"), 1);
-}
-
-void tst_FloorPlanService::deletingATableIsNotUndoneByLeaving()
-{
-    QCOMPARE(service().createFloor("Hall"), 1);
-    drawTable("A1");
-    drawTable("A2");
-    QVERIFY(service().saveCanvas(1));
-
-    service().deleteItem(0);
-    service().loadCanvas(1);
-
-    QCOMPARE(m_database->value("SELECT group_concat(table_name) FROM tables").toString(),
-             QStringLiteral("A2"));
-    QCOMPARE(ModelRows::column(*service().canvasModel(), "label"), QVariantList({"A2"}));
-}
-
-void tst_FloorPlanService::aDeletedWallComesBackWithoutASave()
-{
-    QCOMPARE(service().createFloor("Hall"), 1);
-    service().addItem({{"type", "wall"}, {"label", "w"}});
-    QVERIFY(service().saveCanvas(1));
-
-    service().deleteItem(0);
-    QCOMPARE(service().canvasModel()->rowCount(), 0);
-    service().loadCanvas(1);
-
-    QCOMPARE(ModelRows::column(*service().canvasModel(), "label"), QVariantList({"w"}));
-}
-
-void tst_FloorPlanService::aRowOutOfRangeDeletesNothing()
-{
-    drawTable("A1");
-
-    service().deleteItem(-1);
-    service().deleteItem(1);
-
-    QCOMPARE(service().canvasModel()->rowCount(), 1);
-    QCOMPARE(count("tables"), 1);
-}
-
 void tst_FloorPlanService::aStatusReachesTheCanvasAtOnce()
 {
-    const int table = drawTable("A1");
+    const int table = m_store->drawTable("A1");
     QSignalSpy updated(&service(), &FloorPlanService::tableStatusUpdated);
 
     m_store->tableService.setTableStatus(table, "occupied");

@@ -8,6 +8,7 @@
 #include "repositories/TableRepository.h"
 #include "services/FloorPlanService.h"
 #include "services/TableService.h"
+#include "support/ModelRows.h"
 
 #include <QSqlDatabase>
 
@@ -22,6 +23,14 @@ struct FloorStore
         , tableService(&tables)
         , service(&floors, &items, &tables, &reservations, &tableService)
     {}
+
+    /// Draws a table on the shown floor; its id in `tables`.
+    int drawTable(const QString &label)
+    {
+        service.createTableItem({{"label", label}, {"capacity", 4}});
+        const CanvasItemModel &model = *service.canvasModel();
+        return ModelRows::value(model, model.rowCount() - 1, "table_id").toInt();
+    }
 
     FloorRepository floors;
     CanvasItemRepository items;
