@@ -3,12 +3,10 @@
 #include "core/records/Order.h"
 #include "core/records/OrderItem.h"
 #include "core/records/OrderSession.h"
-#include "core/records/Printer.h"
 #include "printing/KitchenTicketBuilder.h"
-#include "repositories/RegionalSettingsRepository.h"
 #include "support/ChineseLabels.h"
+#include "support/PaperStore.h"
 #include "support/PrintedPaper.h"
-#include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 
 #include <memory>
@@ -39,14 +37,6 @@ OrderItem item(const QString &name, int quantity, const QString &portion = {},
     made.price = 1250;
     return made;
 }
-
-Printer printer(int paperWidth, const QString &cutMode)
-{
-    Printer made;
-    made.paper_width = paperWidth;
-    made.cut_mode = cutMode;
-    return made;
-}
 } // namespace
 
 class tst_KitchenTicketBuilder : public ZelvanTest
@@ -54,9 +44,9 @@ class tst_KitchenTicketBuilder : public ZelvanTest
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { m_store = std::make_unique<PaperStore>(); }
     void init();
-    void cleanupTestCase();
+    void cleanupTestCase() { m_store.reset(); }
 
     void aTicketIsLaidOutToTheByte_data();
     void aTicketIsLaidOutToTheByte();
@@ -71,28 +61,14 @@ private slots:
 private:
     [[nodiscard]] QByteArray ticket(const OrderSession &of, const QList<OrderItem> &items,
                                     const Printer &on) const;
-    void useLocale(const QString &name);
 
-    std::unique_ptr<TestDatabase> m_database;
-    std::unique_ptr<RegionalSettingsRepository> m_settings;
+    std::unique_ptr<PaperStore> m_store;
 };
-
-void tst_KitchenTicketBuilder::initTestCase()
-{
-    m_database = std::make_unique<TestDatabase>();
-    m_settings = std::make_unique<RegionalSettingsRepository>(m_database->handle());
-}
 
 void tst_KitchenTicketBuilder::init()
 {
     ZelvanTest::init();
-    useLocale(QStringLiteral("en_US"));
-}
-
-void tst_KitchenTicketBuilder::cleanupTestCase()
-{
-    m_settings.reset();
-    m_database.reset();
+    m_store->useLocale(QStringLiteral("en_US"));
 }
 
 QByteArray tst_KitchenTicketBuilder::ticket(const OrderSession &of, const QList<OrderItem> &items,
@@ -101,12 +77,7 @@ QByteArray tst_KitchenTicketBuilder::ticket(const OrderSession &of, const QList<
     Order order;
     order.id = 3;
     order.display_number = 42;
-    return KitchenTicketBuilder(m_settings.get()).build(order, of, items, on);
-}
-
-void tst_KitchenTicketBuilder::useLocale(const QString &name)
-{
-    m_settings->save({1, name, QStringLiteral("USD")});
+    return KitchenTicketBuilder(&m_store->settings).build(order, of, items, on);
 }
 
 void tst_KitchenTicketBuilder::aTicketIsLaidOutToTheByte_data()
@@ -119,7 +90,7 @@ void tst_KitchenTicketBuilder::aTicketIsLaidOutToTheByte_data()
     QTest::newRow("dine-in with a table, 58 mm, partial cut")
         << session("dine_in", 7)
         << QList<OrderItem>({item("Noodle Soup", 3, "Large", "no onion"), item("Tea", 12)})
-        << printer(58, "partial")
+        << PaperStore::printer(58, "partial")
         << bytes("\x1b\x40\x1b\x61\x01\x1b\x45\x01"
                  "Order #42"
                  "\x1b\x45\x00\n\n"
@@ -134,7 +105,8 @@ void tst_KitchenTicketBuilder::aTicketIsLaidOutToTheByte_data()
                  "--------------------------------\n\n\n"
                  "\x1b\x64\x03\x1d\x56\x01\n\n");
     QTest::newRow("dine-in without a table, 80 mm, full cut")
-        << session("dine_in") << QList<OrderItem>({item("Tea", 1)}) << printer(80, "full")
+        << session("dine_in") << QList<OrderItem>({item("Tea", 1)})
+        << PaperStore::printer(80, "full")
         << bytes("\x1b\x40\x1b\x61\x01\x1b\x45\x01"
                  "Order #42"
                  "\x1b\x45\x00\n\n"
@@ -146,7 +118,7 @@ void tst_KitchenTicketBuilder::aTicketIsLaidOutToTheByte_data()
                  "------------------------------------------------\n\n\n"
                  "\x1b\x64\x03\x1d\x56\x00\n\n");
     QTest::newRow("takeaway without lines stays centred, no cut")
-        << session("takeaway", 7) << QList<OrderItem>() << printer(58, "none")
+        << session("takeaway", 7) << QList<OrderItem>() << PaperStore::printer()
         << bytes("\x1b\x40\x1b\x61\x01\x1b\x45\x01"
                  "Order #42"
                  "\x1b\x45\x00\n\n"
@@ -154,7 +126,8 @@ void tst_KitchenTicketBuilder::aTicketIsLaidOutToTheByte_data()
                  "{date} {time}\n"
                  "--------------------------------\n"
                  "--------------------------------\n\n\n\n\n");
-    QTest::newRow("delivery") << session("delivery") << QList<OrderItem>() << printer(76, "")
+    QTest::newRow("delivery") << session("delivery") << QList<OrderItem>()
+                              << PaperStore::printer(76, "")
                               << bytes(
                                      "\x1b\x40\x1b\x61\x01\x1b\x45\x01"
                                      "Order #42"
@@ -164,7 +137,7 @@ void tst_KitchenTicketBuilder::aTicketIsLaidOutToTheByte_data()
                                      "------------------------------------------------\n"
                                      "------------------------------------------------\n\n\n\n\n");
     QTest::newRow("a word of its own is upper-cased, paper of no width is 58 mm")
-        << session("drive_thru %1") << QList<OrderItem>() << printer(0, "Full")
+        << session("drive_thru %1") << QList<OrderItem>() << PaperStore::printer(0, "Full")
         << bytes("\x1b\x40\x1b\x61\x01\x1b\x45\x01"
                  "Order #42"
                  "\x1b\x45\x00\n\n"
@@ -210,7 +183,7 @@ void tst_KitchenTicketBuilder::aRowIsFilledToTheLine()
     QFETCH(OrderItem, line);
     QFETCH(QByteArray, row);
 
-    const QByteArray paper = ticket(session("dine_in"), {line}, printer(58, "none"));
+    const QByteArray paper = ticket(session("dine_in"), {line}, PaperStore::printer());
 
     QVERIFY2(paper.contains(bytes("\n\x1b\x61\x00") + row), paper.constData());
 }
@@ -229,10 +202,10 @@ void tst_KitchenTicketBuilder::theDateIsThatOfTheStoresLocale()
 {
     QFETCH(QString, locale);
     QFETCH(QString, dateFormat);
-    useLocale(locale);
+    m_store->useLocale(locale);
 
     const auto papers = PrintedPaper::inOneSecond("TAKEAWAY\n{date} {time}\n----", dateFormat, [&] {
-        return ticket(session("takeaway"), {}, printer(58, "none"));
+        return ticket(session("takeaway"), {}, PaperStore::printer());
     });
 
     QVERIFY2(papers.printed.contains(papers.expected), papers.printed.constData());
@@ -240,11 +213,11 @@ void tst_KitchenTicketBuilder::theDateIsThatOfTheStoresLocale()
 
 void tst_KitchenTicketBuilder::theLocaleIsReadAtEachBuild()
 {
-    const KitchenTicketBuilder builder(m_settings.get());
-    const QByteArray first = builder.build({}, session("takeaway"), {}, printer(58, "none"));
-    useLocale(QStringLiteral("zh_CN"));
+    const KitchenTicketBuilder builder(&m_store->settings);
+    const QByteArray first = builder.build({}, session("takeaway"), {}, PaperStore::printer());
+    m_store->useLocale(QStringLiteral("zh_CN"));
 
-    const QByteArray second = builder.build({}, session("takeaway"), {}, printer(58, "none"));
+    const QByteArray second = builder.build({}, session("takeaway"), {}, PaperStore::printer());
 
     const QByteArray chineseYear = QByteArray::number(QDate::currentDate().year()) + '/';
     QVERIFY(!first.contains(chineseYear));
@@ -255,10 +228,10 @@ void tst_KitchenTicketBuilder::theLabelsArePrintedInChinese()
 {
     const ChineseLabels labels;
 
-    const QByteArray atTable = ticket(session("dine_in", 7), {}, printer(58, "none"));
-    const QByteArray noTable = ticket(session("dine_in"), {}, printer(58, "none"));
-    const QByteArray away = ticket(session("takeaway"), {}, printer(58, "none"));
-    const QByteArray delivered = ticket(session("delivery"), {}, printer(58, "none"));
+    const QByteArray atTable = ticket(session("dine_in", 7), {}, PaperStore::printer());
+    const QByteArray noTable = ticket(session("dine_in"), {}, PaperStore::printer());
+    const QByteArray away = ticket(session("takeaway"), {}, PaperStore::printer());
+    const QByteArray delivered = ticket(session("delivery"), {}, PaperStore::printer());
 
     QVERIFY(atTable.contains(bytes("\x1b\x45\x01订单 #42\x1b\x45\x00\n\n\n堂食 | 餐桌 7\n")));
     QVERIFY(noTable.contains("\n\n\n堂食\n"));
@@ -270,7 +243,7 @@ void tst_KitchenTicketBuilder::everyLineOfTheOrderIsPrintedInItsOrder()
 {
     const QList<OrderItem> lines{item("B", 1), item("A", 2), item("B", 1)};
 
-    const QByteArray paper = ticket(session("takeaway"), lines, printer(58, "none"));
+    const QByteArray paper = ticket(session("takeaway"), lines, PaperStore::printer());
 
     const QByteArray left = bytes("\x1b\x61\x00");
     const QByteArray b = left + " B                            1x\n\n";
