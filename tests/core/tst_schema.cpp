@@ -308,6 +308,7 @@ QStringList indexedColumnsOf(const TestDatabase &db, const QString &table)
 }
 } // namespace
 
+/// The tables and their columns. What their rules do is tst_SchemaRules's.
 class tst_Schema : public ZelvanTest
 {
     Q_OBJECT
@@ -316,13 +317,6 @@ private slots:
     void aNewFileHasTheseTablesAndNothingElse();
     void tablesHaveTheirColumns_data();
     void tablesHaveTheirColumns();
-    void oneRowTablesRefuseASecondRow_data();
-    void oneRowTablesRefuseASecondRow();
-    void theDefaultCutModeIsAText();
-    void deletingACategoryDeletesItsDishes();
-    void deletingATableFreesItsSessionsAndRemovesItsDrawings();
-    void deletingASessionTakesItsOrdersAlong();
-    void aSessionWithPointsCannotBeDeleted();
 };
 
 void tst_Schema::aNewFileHasTheseTablesAndNothingElse()
@@ -373,101 +367,6 @@ void tst_Schema::tablesHaveTheirColumns()
              shape.oneRowOnly);
     // Vocabularies are kept by the code: no other check stands in the schema.
     QCOMPARE(sql.contains(QStringLiteral("CHECK")), shape.oneRowOnly);
-}
-
-void tst_Schema::oneRowTablesRefuseASecondRow_data()
-{
-    QTest::addColumn<bool>("refused");
-
-    QTest::newRow("tax_settings") << true;
-    QTest::newRow("membership_settings") << true;
-    QTest::newRow("regional_settings") << true;
-    QTest::newRow("table_settings") << true;
-    QTest::newRow("restaurant") << false;
-}
-
-void tst_Schema::oneRowTablesRefuseASecondRow()
-{
-    QFETCH(bool, refused);
-    const TestDatabase db(TestDatabase::Content::Schema);
-    QSqlQuery query(db.handle());
-
-    const bool ran = query.exec(QStringLiteral("INSERT INTO %1 (id) VALUES (2)")
-                                    .arg(QLatin1String(QTest::currentDataTag())));
-
-    QCOMPARE(ran, !refused);
-}
-
-void tst_Schema::theDefaultCutModeIsAText()
-{
-    const TestDatabase db(TestDatabase::Content::Schema);
-    db.run(QStringLiteral("INSERT INTO printers (system_name, role) VALUES ('TM88', 'both')"));
-
-    QCOMPARE(db.value(QStringLiteral("SELECT cut_mode FROM printers")).toString(),
-             QStringLiteral("none"));
-    QCOMPARE(db.value(QStringLiteral("SELECT paper_width FROM printers")).toInt(), 58);
-}
-
-void tst_Schema::deletingACategoryDeletesItsDishes()
-{
-    const TestDatabase db(TestDatabase::Content::Schema);
-    db.run(QStringLiteral("INSERT INTO categories (category) VALUES ('Soups')"));
-    db.run(QStringLiteral("INSERT INTO menu (item, category_id, price, is_available, is_taxable) "
-                          "VALUES ('Broth', 1, 500, 1, 1)"));
-
-    db.run(QStringLiteral("DELETE FROM categories"));
-
-    QCOMPARE(db.value(QStringLiteral("SELECT COUNT(*) FROM menu")).toInt(), 0);
-}
-
-void tst_Schema::deletingATableFreesItsSessionsAndRemovesItsDrawings()
-{
-    const TestDatabase db(TestDatabase::Content::Schema);
-    db.run(QStringLiteral("INSERT INTO tables (table_name) VALUES ('T1')"));
-    db.run(QStringLiteral("INSERT INTO floors (name) VALUES ('Ground')"));
-    db.run(QStringLiteral("INSERT INTO order_sessions (display_number, order_type, table_id) "
-                          "VALUES (4001, 'dine_in', 1)"));
-    db.run(
-        QStringLiteral("INSERT INTO canvas_items (floor_id, table_id, type, x, y, width, height) "
-                       "VALUES (1, 1, 'table', 0, 0, 1, 1)"));
-    db.run(QStringLiteral("INSERT INTO reservations (table_id) VALUES (1)"));
-
-    db.run(QStringLiteral("DELETE FROM tables"));
-
-    QVERIFY(db.value(QStringLiteral("SELECT table_id IS NULL FROM order_sessions")).toBool());
-    QCOMPARE(db.value(QStringLiteral("SELECT COUNT(*) FROM canvas_items")).toInt(), 0);
-    QCOMPARE(db.value(QStringLiteral("SELECT COUNT(*) FROM reservations")).toInt(), 0);
-}
-
-void tst_Schema::deletingASessionTakesItsOrdersAlong()
-{
-    const TestDatabase db(TestDatabase::Content::Schema);
-    db.run(QStringLiteral(
-        "INSERT INTO order_sessions (display_number, order_type) VALUES (4001, 'takeaway')"));
-    db.run(QStringLiteral("INSERT INTO orders (order_session_id, display_number) VALUES (1, 1)"));
-    db.run(QStringLiteral("INSERT INTO order_items (order_id, is_taxable) VALUES (1, 1)"));
-    db.run(QStringLiteral("INSERT INTO receipt_snapshot (order_session_id) VALUES (1)"));
-
-    db.run(QStringLiteral("DELETE FROM order_sessions"));
-
-    for (const char *table : {"orders", "order_items", "receipt_snapshot"}) {
-        QCOMPARE(db.value(QStringLiteral("SELECT COUNT(*) FROM ") + QLatin1String(table)).toInt(),
-                 0);
-    }
-}
-
-void tst_Schema::aSessionWithPointsCannotBeDeleted()
-{
-    const TestDatabase db(TestDatabase::Content::Schema);
-    db.run(QStringLiteral(
-        "INSERT INTO order_sessions (display_number, order_type) VALUES (4001, 'takeaway')"));
-    db.run(QStringLiteral("INSERT INTO memberships (phone_number) VALUES ('555')"));
-    db.run(QStringLiteral("INSERT INTO membership_transactions (membership_id, order_session_id, "
-                          "type, points) VALUES (1, 1, 'earn', 1)"));
-    QSqlQuery query(db.handle());
-
-    QVERIFY(!query.exec(QStringLiteral("DELETE FROM order_sessions")));
-    QVERIFY(!query.exec(QStringLiteral("DELETE FROM memberships")));
 }
 
 ZELVAN_TEST(tst_Schema)

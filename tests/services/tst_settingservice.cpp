@@ -8,9 +8,20 @@
 #include <QMetaProperty>
 #include <QSignalSpy>
 
-#include <limits>
 #include <memory>
 
+namespace {
+void verifyDefaults(const SettingService &service)
+{
+    QCOMPARE(service.membershipEnabled(), false);
+    QCOMPARE(service.kitchenMode(), QStringLiteral("none"));
+    QCOMPARE(service.currencyCode(), QStringLiteral("USD"));
+    QCOMPARE(service.currencySymbol(), QStringLiteral("$"));
+    QCOMPARE(service.tableLayoutMode(), QStringLiteral("simple"));
+}
+} // namespace
+
+/// What the service keeps and tells. What it stores and reads is tst_SettingMaps's.
 class tst_SettingService : public ZelvanTest
 {
     Q_OBJECT
@@ -23,31 +34,11 @@ private slots:
     void storedSettingsAreCachedAtConstruction();
     void withoutRowsTheDefaultsHold();
     void withoutADatabaseTheDefaultsHoldAndLinesAreLogged();
-    void withoutRowsTheMapsAreEmpty();
 
     void aCurrencyHasItsSymbol_data();
     void aCurrencyHasItsSymbol();
     void theSymbolFollowsTheCurrencyAtOnce();
     void anUnknownCurrencyIsReadBackWithADollarSign();
-
-    void theRestaurantIsSavedInRowOneWhateverTheId();
-    void missingRestaurantTextsAreEmptyAndNotNull();
-    void aNullTextIsReadAsEmpty();
-
-    void aPrinterIsInsertedUpdatedAndRemoved();
-    void aPrinterIdNotAboveZeroInserts_data();
-    void aPrinterIdNotAboveZeroInserts();
-    void anUnknownPrinterIdChangesNothingAndReportsSuccess();
-    void aRefusedPrinterReportsSuccess();
-
-    void theTaxIsSavedUnchecked();
-    void membershipAmountsAreTruncatedToCents_data();
-    void membershipAmountsAreTruncatedToCents();
-    void membershipSettingsAreReadInUnits();
-    void theKitchenIsSavedWithFlagsFromNumbers();
-    void aMissingKitchenModeIsStoredEmptyAndCachedEmpty();
-    void missingRegionalKeysHaveTheirDefaults();
-    void aMissingLayoutModeIsSimple();
 
     void aCachedSettingTellsItsChangeOnce_data();
     void aCachedSettingTellsItsChangeOnce();
@@ -55,8 +46,6 @@ private slots:
     void aFailedStatementReportsSuccessAndIsCached();
 
 private:
-    [[nodiscard]] QVariant stored(const QString &sql) const { return m_database->value(sql); }
-
     std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<SettingsStore> m_store;
 };
@@ -109,17 +98,6 @@ void tst_SettingService::storedSettingsAreCachedAtConstruction()
     QCOMPARE(store.service.tableLayoutMode(), QStringLiteral("floor_plan"));
 }
 
-namespace {
-void verifyDefaults(const SettingService &service)
-{
-    QCOMPARE(service.membershipEnabled(), false);
-    QCOMPARE(service.kitchenMode(), QStringLiteral("none"));
-    QCOMPARE(service.currencyCode(), QStringLiteral("USD"));
-    QCOMPARE(service.currencySymbol(), QStringLiteral("$"));
-    QCOMPARE(service.tableLayoutMode(), QStringLiteral("simple"));
-}
-} // namespace
-
 void tst_SettingService::withoutRowsTheDefaultsHold()
 {
     for (const char *table : {"membership_settings", "kitchen_settings", "table_settings"}) {
@@ -139,24 +117,6 @@ void tst_SettingService::withoutADatabaseTheDefaultsHoldAndLinesAreLogged()
     }
 
     verifyDefaults(SettingsStore(QSqlDatabase()).service);
-}
-
-void tst_SettingService::withoutRowsTheMapsAreEmpty()
-{
-    for (const char *table :
-         {"membership_settings", "kitchen_settings", "table_settings", "tax_settings"}) {
-        m_database->run(QStringLiteral("DELETE FROM %1").arg(table));
-    }
-    const SettingService &service = m_store->service;
-
-    QVERIFY(service.getRestaurant().isEmpty());
-    QVERIFY(service.getPrinter(1).isEmpty());
-    QVERIFY(service.getPrinters().isEmpty());
-    QVERIFY(service.getTaxSettings().isEmpty());
-    QVERIFY(service.getMembershipSettings().isEmpty());
-    QVERIFY(service.getKitchenSettings().isEmpty());
-    QVERIFY(service.getRegionalSettings().isEmpty());
-    QVERIFY(service.getTableSettings().isEmpty());
 }
 
 void tst_SettingService::aCurrencyHasItsSymbol_data()
@@ -205,206 +165,6 @@ void tst_SettingService::anUnknownCurrencyIsReadBackWithADollarSign()
     const QVariantMap expected{
         {"id", 1}, {"locale", "zh_CN"}, {"currency_code", "XYZ"}, {"currency_symbol", "$"}};
     QCOMPARE(m_store->service.getRegionalSettings(), expected);
-}
-
-void tst_SettingService::theRestaurantIsSavedInRowOneWhateverTheId()
-{
-    const QVariantMap given{{"id", 5},
-                            {"name", "Corner Cafe"},
-                            {"address", "1 High St"},
-                            {"phone_number", "555"},
-                            {"email", "a@b"},
-                            {"website", "w.example"}};
-
-    QVERIFY(m_store->service.saveRestaurantSetting(given));
-    QVERIFY(m_store->service.saveRestaurantSetting(given));
-
-    QVariantMap expected = given;
-    expected.insert("id", 1);
-    QCOMPARE(m_store->service.getRestaurant(), expected);
-    QCOMPARE(stored("SELECT COUNT(*) FROM restaurant"), QVariant(1));
-}
-
-void tst_SettingService::missingRestaurantTextsAreEmptyAndNotNull()
-{
-    QVERIFY(m_store->service.saveRestaurantSetting({}));
-
-    QCOMPARE(stored("SELECT name || address || phone_number || email || website || '.' "
-                    "FROM restaurant"),
-             QVariant("."));
-}
-
-void tst_SettingService::aNullTextIsReadAsEmpty()
-{
-    m_database->run("INSERT INTO restaurant (id, name, address) VALUES (1, 'Cafe', 'Street')");
-    m_database->run("UPDATE tax_settings SET registration_number = NULL");
-
-    const QVariantMap expected{
-        {"id", 1},     {"name", "Cafe"}, {"address", "Street"}, {"phone_number", ""},
-        {"email", ""}, {"website", ""}};
-    QCOMPARE(m_store->service.getRestaurant(), expected);
-    QCOMPARE(m_store->service.getTaxSettings().value("registration_number"), QVariant(""));
-}
-
-void tst_SettingService::aPrinterIsInsertedUpdatedAndRemoved()
-{
-    SettingService &service = m_store->service;
-
-    QVERIFY(service.savePrinter({{"system_name", "TM88"},
-                                 {"role", "both"},
-                                 {"paper_width", "80"},
-                                 {"cut_mode", "partial"}}));
-    const QVariantMap expected{{"id", 1},
-                               {"system_name", "TM88"},
-                               {"role", "both"},
-                               {"paper_width", 80},
-                               {"cut_mode", "partial"}};
-    QCOMPARE(service.getPrinter(1), expected);
-    QCOMPARE(service.getPrinters(), QVariantList({expected}));
-
-    QVERIFY(service.savePrinter({{"id", 1}, {"system_name", "TM20"}}));
-    const QVariantMap updated{
-        {"id", 1}, {"system_name", "TM20"}, {"role", ""}, {"paper_width", 0}, {"cut_mode", ""}};
-    QCOMPARE(service.getPrinter(1), updated);
-
-    QVERIFY(service.removePrinter(1));
-    QVERIFY(service.getPrinters().isEmpty());
-}
-
-void tst_SettingService::aPrinterIdNotAboveZeroInserts_data()
-{
-    QTest::addColumn<QVariantMap>("printer");
-
-    QTest::newRow("zero") << QVariantMap{{"id", 0}, {"system_name", "TM88"}};
-    QTest::newRow("negative") << QVariantMap{{"id", -1}, {"system_name", "TM88"}};
-    QTest::newRow("none") << QVariantMap{{"system_name", "TM88"}};
-}
-
-void tst_SettingService::aPrinterIdNotAboveZeroInserts()
-{
-    QFETCH(QVariantMap, printer);
-
-    QVERIFY(m_store->service.savePrinter(printer));
-
-    QCOMPARE(stored("SELECT id FROM printers WHERE system_name = 'TM88'"), QVariant(1));
-}
-
-void tst_SettingService::anUnknownPrinterIdChangesNothingAndReportsSuccess()
-{
-    QVERIFY(m_store->service.savePrinter({{"id", 7}, {"system_name", "TM88"}}));
-    QVERIFY(m_store->service.removePrinter(7));
-
-    QCOMPARE(stored("SELECT COUNT(*) FROM printers"), QVariant(0));
-}
-
-void tst_SettingService::aRefusedPrinterReportsSuccess()
-{
-    QVERIFY(m_store->service.savePrinter({{"system_name", "TM88"}}));
-
-    expectLog(QtWarningMsg, "Failed to insert printer:");
-    QVERIFY(m_store->service.savePrinter({{"system_name", "TM88"}}));
-
-    QCOMPARE(stored("SELECT COUNT(*) FROM printers"), QVariant(1));
-}
-
-void tst_SettingService::theTaxIsSavedUnchecked()
-{
-    QVERIFY(m_store->service.saveTaxSettings({{"enabled", true},
-                                              {"rate", 123456},
-                                              {"registration_number", "R %2"},
-                                              {"name", "VAT %1"}}));
-
-    const QVariantMap expected{{"id", 1},
-                               {"enabled", true},
-                               {"rate", 123456},
-                               {"registration_number", "R %2"},
-                               {"name", "VAT %1"}};
-    QCOMPARE(m_store->service.getTaxSettings(), expected);
-}
-
-void tst_SettingService::membershipAmountsAreTruncatedToCents_data()
-{
-    QTest::addColumn<double>("units");
-    QTest::addColumn<int>("cents");
-
-    QTest::newRow("19.99") << 19.99 << 1998;
-    QTest::newRow("0.29") << 0.29 << 28;
-    QTest::newRow("10") << 10.0 << 1000;
-    QTest::newRow("negative") << -0.299 << -29;
-    QTest::newRow("out of range") << 1e9 << std::numeric_limits<int>::max();
-}
-
-void tst_SettingService::membershipAmountsAreTruncatedToCents()
-{
-    QFETCH(double, units);
-    QFETCH(int, cents);
-
-    QVERIFY(
-        m_store->service.saveMembershipSettings({{"earn_spend", units}, {"redeem_value", units}}));
-
-    QCOMPARE(stored("SELECT earn_spend FROM membership_settings"), QVariant(cents));
-    QCOMPARE(stored("SELECT redeem_value FROM membership_settings"), QVariant(cents));
-}
-
-void tst_SettingService::membershipSettingsAreReadInUnits()
-{
-    QVERIFY(m_store->service.saveMembershipSettings({{"id", 9},
-                                                     {"enabled", true},
-                                                     {"earn_points", 2},
-                                                     {"earn_spend", 12.5},
-                                                     {"redeem_points", 50},
-                                                     {"redeem_value", 1.25},
-                                                     {"earn_on", "subtotal"}}));
-
-    const QVariantMap expected{{"id", 1},
-                               {"enabled", true},
-                               {"earn_points", 2},
-                               {"earn_spend", 12.5},
-                               {"redeem_points", 50},
-                               {"redeem_value", 1.25},
-                               {"earn_on", "subtotal"}};
-    QCOMPARE(m_store->service.getMembershipSettings(), expected);
-}
-
-void tst_SettingService::theKitchenIsSavedWithFlagsFromNumbers()
-{
-    QVERIFY(m_store->service.saveKitchenSettings({{"mode", "kds"},
-                                                  {"ticket_print_timing", "order_created"},
-                                                  {"require_ready_for_checkout", 1},
-                                                  {"allow_edit_after_send", 0}}));
-
-    const QVariantMap expected{{"id", 1},
-                               {"mode", "kds"},
-                               {"ticket_print_timing", "order_created"},
-                               {"require_ready_for_checkout", true},
-                               {"allow_edit_after_send", false}};
-    QCOMPARE(m_store->service.getKitchenSettings(), expected);
-}
-
-void tst_SettingService::aMissingKitchenModeIsStoredEmptyAndCachedEmpty()
-{
-    QVERIFY(m_store->service.saveKitchenSettings({}));
-
-    QCOMPARE(stored("SELECT mode FROM kitchen_settings"), QVariant(""));
-    QCOMPARE(m_store->service.kitchenMode(), QString());
-}
-
-void tst_SettingService::missingRegionalKeysHaveTheirDefaults()
-{
-    QVERIFY(m_store->service.saveRegionalSettings({}));
-
-    QCOMPARE(stored("SELECT locale || currency_code FROM regional_settings"), QVariant("en_USUSD"));
-}
-
-void tst_SettingService::aMissingLayoutModeIsSimple()
-{
-    QVERIFY(m_store->service.saveTableSettings({{"layout_mode", "floor_plan"}}));
-    const QVariantMap expected{{"id", 1}, {"layout_mode", "floor_plan"}};
-    QCOMPARE(m_store->service.getTableSettings(), expected);
-
-    QVERIFY(m_store->service.saveTableSettings({}));
-
-    QCOMPARE(stored("SELECT layout_mode FROM table_settings"), QVariant("simple"));
 }
 
 void tst_SettingService::aCachedSettingTellsItsChangeOnce_data()
@@ -461,7 +221,8 @@ void tst_SettingService::aSaveThatChangesNothingTellsNothing()
 
     QCOMPARE(kitchen.count(), 0);
     QCOMPARE(layout.count(), 0);
-    QCOMPARE(stored("SELECT ticket_print_timing FROM kitchen_settings"), QVariant("order_created"));
+    QCOMPARE(m_database->value("SELECT ticket_print_timing FROM kitchen_settings"),
+             QVariant("order_created"));
 }
 
 void tst_SettingService::aFailedStatementReportsSuccessAndIsCached()
