@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/DatabaseManager.h"
+#include "support/DatabaseFiles.h"
 #include "support/LogCapture.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 
-#include <QDir>
 #include <QFile>
-#include <QSqlError>
 #include <QSqlQuery>
 #include <QTemporaryDir>
 
@@ -20,44 +19,17 @@ QString fileWith(const QTemporaryDir &folder, const QByteArray &content)
                                                                                     : QString();
 }
 
-/// Runs statements on a connection of its own.
-void prepareFile(const QString &path, const QStringList &statements)
-{
-    const QString name = QStringLiteral("preparing");
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-        database.setDatabaseName(path);
-        QVERIFY(database.open());
-        for (const QString &statement : statements) {
-            QSqlQuery query(database);
-            QVERIFY2(query.exec(statement), qPrintable(query.lastError().text()));
-        }
-    }
-    QSqlDatabase::removeDatabase(name);
-}
-
 QVariant valueOf(const QString &sql)
 {
     QSqlQuery query(sql, DatabaseManager::connection());
     return query.next() ? query.value(0) : QVariant();
 }
 
-/// `main_connection` is registered under its name but never opened.
-class ClosedConnection final
-{
-public:
-    ClosedConnection()
-    {
-        QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), DatabaseManager::mainConnectionName);
-    }
-    ~ClosedConnection() { QSqlDatabase::removeDatabase(DatabaseManager::mainConnectionName); }
-    Q_DISABLE_COPY_MOVE(ClosedConnection)
-};
-
-const QStringList identityTable{
-    QStringLiteral("CREATE TABLE app_state (key TEXT PRIMARY KEY, value TEXT)")};
+const QString identityTable =
+    QStringLiteral("CREATE TABLE app_state (key TEXT PRIMARY KEY, value TEXT)");
 } // namespace
 
+/// Opening, closing and knowing files. What is written is tst_DatabaseTransactions's.
 class tst_DatabaseManager : public ZelvanTest
 {
     Q_OBJECT
@@ -71,12 +43,6 @@ private slots:
     void filesAreKnownByTheirIdentity_data();
     void filesAreKnownByTheirIdentity();
     void anIdentityThatCannotBeReadIsTold();
-    void aCheckpointFoldsEverythingIntoTheOneFile();
-    void aCheckpointNeedsAnOpenConnection();
-    void aCheckpointInsideATransactionFails();
-    void transactionsCommitAndRollBack();
-    void transactionStepsTellWhatIsMissing_data();
-    void transactionStepsTellWhatIsMissing();
     void closingTwiceSaysSoOnce();
     void openingExistingRefusesPathsThatAreNoFiles();
     void openingExistingRunsNoMigration();
@@ -166,8 +132,8 @@ void tst_DatabaseManager::filesAreKnownByTheirIdentity()
     QFETCH(bool, known);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("a.db"));
-    prepareFile(path,
-                identityTable + QStringList{QStringLiteral("INSERT INTO app_state VALUES ") + row});
+    DatabaseFiles::run(path, identityTable);
+    DatabaseFiles::run(path, QStringLiteral("INSERT INTO app_state VALUES ") + row);
 
     QCOMPARE(DatabaseManager::isZelvanDatabase(path), known);
 
@@ -191,101 +157,6 @@ void tst_DatabaseManager::anIdentityThatCannotBeReadIsTold()
              QStringLiteral("warning [database] Failed to open database for Zelvan validation: "
                             "<error text>"));
     QVERIFY(QSqlDatabase::connectionNames().isEmpty());
-}
-
-void tst_DatabaseManager::aCheckpointFoldsEverythingIntoTheOneFile()
-{
-    const QTemporaryDir folder;
-    const QString copy = folder.filePath(QStringLiteral("copy.db"));
-    const TestDatabase db;
-    db.run(QStringLiteral("INSERT INTO categories (category) VALUES ('Soups')"));
-
-    QVERIFY(DatabaseManager::checkpointWal());
-
-    QVERIFY(QFile::copy(db.path(), copy));
-    QVERIFY(DatabaseManager::openExisting(copy));
-    QCOMPARE(valueOf(QStringLiteral("SELECT category FROM categories")).toString(),
-             QStringLiteral("Soups"));
-    DatabaseManager::closeDatabase();
-}
-
-void tst_DatabaseManager::aCheckpointNeedsAnOpenConnection()
-{
-    QCOMPARE(logOf([&] { QVERIFY(!DatabaseManager::checkpointWal()); }), QString());
-
-    const ClosedConnection closed;
-
-    QCOMPARE(logOf([&] { QVERIFY(!DatabaseManager::checkpointWal()); }), QString());
-}
-
-void tst_DatabaseManager::aCheckpointInsideATransactionFails()
-{
-    const TestDatabase db;
-    QVERIFY(DatabaseManager::beginTransaction());
-    db.run(QStringLiteral("INSERT INTO categories (category) VALUES ('Soups')"));
-
-    QCOMPARE(logOf([&] { QVERIFY(!DatabaseManager::checkpointWal()); }),
-             QStringLiteral("warning [database] Failed to checkpoint WAL: <error text>"));
-
-    QVERIFY(DatabaseManager::rollbackTransaction());
-}
-
-void tst_DatabaseManager::transactionsCommitAndRollBack()
-{
-    const TestDatabase db;
-    const QString insert = QStringLiteral("INSERT INTO categories (category) VALUES ('Soups')");
-
-    QVERIFY(DatabaseManager::beginTransaction());
-    db.run(insert);
-    QVERIFY(DatabaseManager::commitTransaction());
-    QVERIFY(DatabaseManager::beginTransaction());
-    db.run(insert);
-    QVERIFY(DatabaseManager::rollbackTransaction());
-
-    QCOMPARE(db.value(QStringLiteral("SELECT COUNT(*) FROM categories")).toInt(), 1);
-}
-
-void tst_DatabaseManager::transactionStepsTellWhatIsMissing_data()
-{
-    QTest::addColumn<int>("step");
-    QTest::addColumn<QString>("missing");
-    QTest::addColumn<QString>("closed");
-    QTest::addColumn<QString>("failed");
-
-    QTest::newRow("begin") << 0 << "Cannot begin transaction: database connection does not exist."
-                           << "Cannot begin transaction: database is not open."
-                           << "Failed to begin transaction: <error text>";
-    QTest::newRow("commit") << 1 << "Cannot commit: database connection does not exist."
-                            << "Cannot commit: database is not open."
-                            << "Failed to commit transaction: <error text>";
-    QTest::newRow("rollback") << 2 << "Cannot rollback: database connection does not exist."
-                              << "Cannot rollback: database is not open."
-                              << "Failed to rollback transaction: <error text>";
-}
-
-void tst_DatabaseManager::transactionStepsTellWhatIsMissing()
-{
-    QFETCH(int, step);
-    QFETCH(QString, missing);
-    QFETCH(QString, closed);
-    QFETCH(QString, failed);
-    bool (*const steps[])() = {DatabaseManager::beginTransaction,
-                               DatabaseManager::commitTransaction,
-                               DatabaseManager::rollbackTransaction};
-    const auto told = [&] { return logOf([&] { QVERIFY(!steps[step]()); }); };
-    const QString start = QStringLiteral("warning [database] ");
-
-    QCOMPARE(told(), start + missing);
-    {
-        const ClosedConnection connection;
-        QCOMPARE(told(), start + closed);
-    }
-    const TestDatabase db;
-    if (step == 0) {
-        // No transaction begins inside another.
-        QVERIFY(DatabaseManager::beginTransaction());
-    }
-    QCOMPARE(told(), start + failed);
 }
 
 void tst_DatabaseManager::closingTwiceSaysSoOnce()
@@ -317,7 +188,7 @@ void tst_DatabaseManager::openingExistingRunsNoMigration()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("a.db"));
-    prepareFile(path, identityTable);
+    DatabaseFiles::run(path, identityTable);
 
     const QString log = logOf([&] { QVERIFY(DatabaseManager::openExisting(path)); });
 
@@ -332,7 +203,7 @@ void tst_DatabaseManager::openingExistingReplacesTheConnection()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("a.db"));
-    prepareFile(path, identityTable);
+    DatabaseFiles::run(path, identityTable);
     const TestDatabase db;
 
     QVERIFY(DatabaseManager::openExisting(path));

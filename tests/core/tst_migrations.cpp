@@ -4,6 +4,7 @@
 
 #include "core/DatabaseManager.h"
 #include "support/ChildProcess.h"
+#include "support/DatabaseFiles.h"
 #include "support/LogCapture.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
@@ -11,7 +12,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QSqlError>
 #include <QSqlQuery>
 #include <QTemporaryDir>
 
@@ -38,17 +38,9 @@ class EarlierFile final
 public:
     explicit EarlierFile(const QStringList &statements)
     {
-        const QString name = QStringLiteral("earlier");
-        {
-            QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-            database.setDatabaseName(path());
-            QVERIFY(database.open());
-            for (const QString &statement : statements) {
-                QSqlQuery query(database);
-                QVERIFY2(query.exec(statement), qPrintable(query.lastError().text()));
-            }
+        for (const QString &statement : statements) {
+            DatabaseFiles::run(path(), statement);
         }
-        QSqlDatabase::removeDatabase(name);
     }
     ~EarlierFile() { DatabaseManager::closeDatabase(); }
     Q_DISABLE_COPY_MOVE(EarlierFile)
