@@ -4,24 +4,19 @@
 #include "services/AppService.h"
 #include "services/SettingsKeys.h"
 #include "support/DatabaseFiles.h"
-#include "support/ZelvanTest.h"
+#include "support/DatabaseFileTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QMetaEnum>
 #include <QSettings>
 #include <QSqlDatabase>
-#include <QTemporaryDir>
 
-#include <memory>
-
-class tst_AppService : public ZelvanTest
+class tst_AppService : public DatabaseFileTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-
     void theStatesHaveTheirNumbers();
     void thePathIsKeptInTheSettingsStore();
     void anEmptyPathIsNoPath();
@@ -39,19 +34,10 @@ private slots:
     void aDialogsUrlBecomesALocalPath();
 
 private:
-    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
     QString storeWith(const QString &usersSql);
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     AppService m_app;
 };
-
-void tst_AppService::init()
-{
-    ZelvanTest::init();
-    QSettings().clear();
-    m_folder = std::make_unique<QTemporaryDir>();
-}
 
 QString tst_AppService::storeWith(const QString &usersSql)
 {

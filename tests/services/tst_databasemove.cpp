@@ -5,31 +5,26 @@
 #include "services/AppService.h"
 #include "services/DatabaseService.h"
 #include "support/DatabaseFiles.h"
+#include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
 #include "support/LogHook.h"
 #include "support/UnprivilegedUser.h"
 #include "support/UnwritableSettings.h"
-#include "support/ZelvanTest.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QSettings>
 #include <QSqlQuery>
-#include <QTemporaryDir>
 
-#include <memory>
 #include <sys/stat.h>
 
 /// Moving the live database, with each step failing in turn.
-class tst_DatabaseMove : public ZelvanTest
+class tst_DatabaseMove : public DatabaseFileTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void theDatabaseMovesBelowTheFolder_data();
     void theDatabaseMovesBelowTheFolder();
     void whatIsStillInTheWriteAheadLogMovesAlong();
@@ -53,28 +48,14 @@ private slots:
     void aFolderThatStaysDoesNotFailTheMove();
 
 private:
-    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
     void openStore(const QString &path);
     /// The old file whole, configured and open; how every failed move ends.
     void verifyStillOn(const QString &source);
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     AppService m_app;
     DatabaseManager m_databases;
     DatabaseService m_service{&m_app, &m_databases};
 };
-
-void tst_DatabaseMove::init()
-{
-    ZelvanTest::init();
-    QSettings().clear();
-    m_folder = std::make_unique<QTemporaryDir>();
-}
-
-void tst_DatabaseMove::cleanup()
-{
-    DatabaseManager::closeDatabase();
-}
 
 void tst_DatabaseMove::openStore(const QString &path)
 {
@@ -293,7 +274,7 @@ void tst_DatabaseMove::aFailedCopyEndsBackOnTheOldFile()
 void tst_DatabaseMove::aCopyThatCannotBeOpenedGoesAgain()
 {
     openStore(inFolder("here/Zelvan.db"));
-    const QString there = DatabaseFiles::makeUnopenableFolder(m_folder->path());
+    const QString there = DatabaseFiles::makeUnopenableFolder(folder());
 
     expectLog(QtWarningMsg, "Failed to open database test connection:");
     expectLog(QtWarningMsg, "Copied database could not be opened.");
@@ -345,7 +326,7 @@ void tst_DatabaseMove::repositoriesStayCutOffAfterAFailedMove()
 {
     openStore(inFolder("here/Zelvan.db"));
     RestaurantRepository restaurant(DatabaseManager::connection());
-    const QString there = DatabaseFiles::makeUnopenableFolder(m_folder->path());
+    const QString there = DatabaseFiles::makeUnopenableFolder(folder());
     QVERIFY(restaurant.fetch());
 
     expectLog(QtWarningMsg, "QSqlDatabasePrivate::removeDatabase: connection 'main_connection' "
@@ -385,7 +366,7 @@ void tst_DatabaseMove::aFolderThatStaysDoesNotFailTheMove()
     m_app.setDatabasePath(source);
     QSettings().sync();
     QDir().mkpath(inFolder("there"));
-    const QString home = QDir(m_folder->path()).filePath("../..");
+    const QString home = QDir(folder()).filePath("../..");
     giveAway(QDir(home).canonicalPath());
     chmod(QFile::encodeName(inFolder("locked")).constData(), 0555);
 

@@ -4,25 +4,20 @@
 #include "services/AppService.h"
 #include "services/DatabaseService.h"
 #include "support/DatabaseFiles.h"
+#include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
 #include "support/LogHook.h"
-#include "support/ZelvanTest.h"
 
 #include <QDir>
 #include <QFile>
-#include <QSettings>
-#include <QTemporaryDir>
-
-#include <memory>
 
 /// Putting an empty database in the place of another, with each step failing in turn.
-class tst_DatabaseReplace : public ZelvanTest
+class tst_DatabaseReplace : public DatabaseFileTest
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
 
     void anEmptyDatabaseTakesTheOldOnesPlace_data();
     void anEmptyDatabaseTakesTheOldOnesPlace();
@@ -45,9 +40,6 @@ private slots:
     void aBackupThatStaysDoesNotFailTheReplacement();
 
 private:
-    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
     QString m_backup;
     AppService m_app;
@@ -57,16 +49,9 @@ private:
 
 void tst_DatabaseReplace::init()
 {
-    ZelvanTest::init();
-    QSettings().clear();
-    m_folder = std::make_unique<QTemporaryDir>();
+    DatabaseFileTest::init();
     m_path = inFolder("Zelvan.db");
     m_backup = m_path + ".backup";
-}
-
-void tst_DatabaseReplace::cleanup()
-{
-    DatabaseManager::closeDatabase();
 }
 
 namespace {
@@ -78,14 +63,7 @@ bool mainConnectionExists()
 
 void tst_DatabaseReplace::anEmptyDatabaseTakesTheOldOnesPlace_data()
 {
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("plain") << "data";
-    QTest::newRow("apostrophe") << "Alice's";
-    QTest::newRow("blank") << "my data";
-    QTest::newRow("hash") << "a#b";
-    QTest::newRow("percent") << "100%20";
-    QTest::newRow("Chinese") << QString::fromUtf8("餐厅");
+    addFolderNames();
 }
 
 void tst_DatabaseReplace::anEmptyDatabaseTakesTheOldOnesPlace()
@@ -183,7 +161,7 @@ void tst_DatabaseReplace::aPreviousBackupThatStaysEndsTheReplacement()
 void tst_DatabaseReplace::aDatabaseThatCannotBeOpenedStays()
 {
     DatabaseFiles::makeStore(m_path, "old");
-    const QString path = DatabaseFiles::makeUnopenableFolder(m_folder->path()) + "/Zelvan.db";
+    const QString path = DatabaseFiles::makeUnopenableFolder(folder()) + "/Zelvan.db";
     QVERIFY(QFile::copy(m_path, path));
     QVERIFY(DatabaseManager::initialize(m_path));
 

@@ -5,8 +5,8 @@
 #include "services/DatabaseService.h"
 #include "services/SettingsKeys.h"
 #include "support/DatabaseFiles.h"
+#include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
-#include "support/ZelvanTest.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -14,19 +14,13 @@
 #include <QRegularExpression>
 #include <QSettings>
 #include <QSqlQuery>
-#include <QTemporaryDir>
-
-#include <memory>
 
 /// Backup, staging of a restore, and choosing another database.
-class tst_DatabaseService : public ZelvanTest
+class tst_DatabaseService : public DatabaseFileTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void aBackupIsACompleteCopyNamedByTheLocalTime();
     void aBackupWorksInAnyFolder_data();
     void aBackupWorksInAnyFolder();
@@ -49,27 +43,13 @@ private slots:
     void anUnfitDatabaseIsNotOpened();
 
 private:
-    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
     /// Makes the store's database, configures it and opens it as the working one.
     void openStore(const QString &path);
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     AppService m_app;
     DatabaseManager m_databases;
     DatabaseService m_service{&m_app, &m_databases};
 };
-
-void tst_DatabaseService::init()
-{
-    ZelvanTest::init();
-    QSettings().clear();
-    m_folder = std::make_unique<QTemporaryDir>();
-}
-
-void tst_DatabaseService::cleanup()
-{
-    DatabaseManager::closeDatabase();
-}
 
 void tst_DatabaseService::openStore(const QString &path)
 {
@@ -94,16 +74,6 @@ void takeBackupNamesOfTheNextSeconds(const QString &folder)
         DatabaseFiles::makeText(folder +
                                 now.addSecs(second).toString("'/backup_'yyyy-MM-dd_hh-mm-ss'.db'"));
     }
-}
-
-void addFolderNames()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("apostrophe") << "Alice's";
-    QTest::newRow("blank") << "my data";
-    QTest::newRow("hash") << "a#b";
-    QTest::newRow("percent") << "100%20 %1 %";
-    QTest::newRow("Chinese") << QString::fromUtf8("餐厅");
 }
 } // namespace
 
@@ -356,7 +326,7 @@ void tst_DatabaseService::anUnfitDatabaseIsNotOpened()
     QString path = name.isEmpty() ? QString() : inFolder(name);
     if (name == QLatin1String("long")) {
         DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
-        path = DatabaseFiles::makeUnopenableFolder(m_folder->path()) + "/Zelvan.db";
+        path = DatabaseFiles::makeUnopenableFolder(folder()) + "/Zelvan.db";
         QVERIFY(QFile::copy(inFolder("Zelvan.db"), path));
     }
 

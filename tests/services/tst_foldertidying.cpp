@@ -2,46 +2,32 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "services/FolderTidying.h"
 #include "support/DatabaseFiles.h"
+#include "support/DatabaseFileTest.h"
 #include "support/UnprivilegedUser.h"
-#include "support/ZelvanTest.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <memory>
 #include <sys/stat.h>
 
-class tst_FolderTidying : public ZelvanTest
+class tst_FolderTidying : public DatabaseFileTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-
     void foldersAloneAreNoFile();
     void anyKindOfEntryCounts_data();
     void anyKindOfEntryCounts();
     void aFolderThatIsNotThereCountsAsNotEmpty();
     void aFolderThatCannotBeReadCountsAsNotEmpty();
-
-private:
-    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-void tst_FolderTidying::init()
-{
-    ZelvanTest::init();
-    m_folder = std::make_unique<QTemporaryDir>();
-}
 
 void tst_FolderTidying::foldersAloneAreNoFile()
 {
     QDir().mkpath(inFolder("a/b/c"));
     QDir().mkpath(inFolder("a/.hidden folder"));
 
-    QVERIFY(holdsNoFile(QDir(m_folder->path())));
+    QVERIFY(holdsNoFile(QDir(folder())));
 }
 
 void tst_FolderTidying::anyKindOfEntryCounts_data()
@@ -78,7 +64,7 @@ void tst_FolderTidying::anyKindOfEntryCounts()
         DatabaseFiles::makeText(inFolder("a/b/entry"));
     }
 
-    QVERIFY(!holdsNoFile(QDir(m_folder->path())));
+    QVERIFY(!holdsNoFile(QDir(folder())));
 }
 
 void tst_FolderTidying::aFolderThatIsNotThereCountsAsNotEmpty()
@@ -90,7 +76,7 @@ void tst_FolderTidying::aFolderThatCannotBeReadCountsAsNotEmpty()
 {
     const QByteArray closedFolder = QFile::encodeName(inFolder("a/closed"));
     QDir().mkpath(inFolder("a/closed"));
-    QDir home(m_folder->path());
+    QDir home(folder());
     for (int level = 0; level < 3; ++level) {
         chmod(QFile::encodeName(home.absolutePath()).constData(), 0755);
         home.cdUp();

@@ -4,24 +4,19 @@
 #include "services/DatabaseService.h"
 #include "services/SettingsKeys.h"
 #include "support/DatabaseFiles.h"
+#include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
-#include "support/ZelvanTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QSettings>
-#include <QTemporaryDir>
-
-#include <memory>
 
 /// What the start of the program does with a staged backup.
-class tst_PendingRestore : public ZelvanTest
+class tst_PendingRestore : public DatabaseFileTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-
     void nothingStagedIsNothingToDo();
     void withoutAConfiguredPathTheStagedFileWaits();
     void theStagedFileTakesThePlaceOfTheConfiguredOne_data();
@@ -36,18 +31,8 @@ private slots:
     void theLiveFileItselfIsNotLost();
 
 private:
-    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
     static void stage(const QString &staged, const QString &configured);
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-void tst_PendingRestore::init()
-{
-    ZelvanTest::init();
-    QSettings().clear();
-    m_folder = std::make_unique<QTemporaryDir>();
-}
 
 void tst_PendingRestore::stage(const QString &staged, const QString &configured)
 {
@@ -78,14 +63,7 @@ void tst_PendingRestore::withoutAConfiguredPathTheStagedFileWaits()
 
 void tst_PendingRestore::theStagedFileTakesThePlaceOfTheConfiguredOne_data()
 {
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("plain") << "data";
-    QTest::newRow("apostrophe") << "Alice's";
-    QTest::newRow("blank") << "my data";
-    QTest::newRow("hash") << "a#b";
-    QTest::newRow("percent") << "100%20";
-    QTest::newRow("Chinese") << QString::fromUtf8("餐厅");
+    addFolderNames();
 }
 
 void tst_PendingRestore::theStagedFileTakesThePlaceOfTheConfiguredOne()
@@ -220,7 +198,7 @@ void tst_PendingRestore::aCopyThatFailsOnAFullDiskLeavesTheStagedFileWhole()
 void tst_PendingRestore::theLiveFileItselfIsNotLost()
 {
     DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
-    stage(m_folder->path() + "/./Zelvan.db", inFolder("Zelvan.db"));
+    stage(folder() + "/./Zelvan.db", inFolder("Zelvan.db"));
 
     QVERIFY(DatabaseService::applyPendingRestore());
 

@@ -4,27 +4,20 @@
 #include "services/AppService.h"
 #include "services/SetupService.h"
 #include "support/DatabaseFiles.h"
+#include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
 #include "support/LogHook.h"
-#include "support/ZelvanTest.h"
 
 #include <QDate>
 #include <QFile>
 #include <QMetaEnum>
-#include <QSettings>
 #include <QSqlQuery>
-#include <QTemporaryDir>
 
-#include <memory>
-
-class tst_SetupService : public ZelvanTest
+class tst_SetupService : public DatabaseFileTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void theResultsHaveTheirNumbers();
     void aNewDatabaseIsMigratedSeededAndConfigured();
     void itsFolderIsMade_data();
@@ -38,25 +31,10 @@ private slots:
     void aHalfSeededFileStaysAndIsNotConfigured();
 
 private:
-    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
     AppService m_app;
     DatabaseManager m_databases;
     SetupService m_setup{&m_app, &m_databases};
 };
-
-void tst_SetupService::init()
-{
-    ZelvanTest::init();
-    QSettings().clear();
-    m_folder = std::make_unique<QTemporaryDir>();
-}
-
-void tst_SetupService::cleanup()
-{
-    DatabaseManager::closeDatabase();
-}
 
 void tst_SetupService::theResultsHaveTheirNumbers()
 {

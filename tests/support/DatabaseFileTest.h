@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#pragma once
+
+#include "support/ZelvanTest.h"
+
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// Base of the tests that work on database files: each begins with an empty folder and empty
+/// settings, and ends with the main connection closed.
+class DatabaseFileTest : public ZelvanTest
+{
+    Q_OBJECT
+
+protected slots:
+    void init();
+    void cleanup();
+
+protected:
+    [[nodiscard]] QString folder() const { return m_folder->path(); }
+    [[nodiscard]] QString inFolder(const QString &name) const { return m_folder->filePath(name); }
+
+    /// The column "name" with names of folders, plain and awkward ones.
+    static void addFolderNames();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
