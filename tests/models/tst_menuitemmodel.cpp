@@ -9,13 +9,20 @@
 #include <QSignalSpy>
 
 namespace {
-void fillMenu(const TestDatabase &database)
+struct Fixture
 {
-    database.run("INSERT INTO categories (category) VALUES ('Soups'), ('Drinks')");
-    database.run("INSERT INTO menu (item, category_id, price, portion_size, is_available, "
-                 "is_taxable) VALUES ('Broth', 1, 1235, 'large', 1, 0), "
-                 "('Stew', 1, -5, NULL, 0, 1), ('Tea', 2, 300, '', 1, 1)");
-}
+    Fixture()
+    {
+        database.run("INSERT INTO categories (category) VALUES ('Soups'), ('Drinks')");
+        database.run("INSERT INTO menu (item, category_id, price, portion_size, is_available, "
+                     "is_taxable) VALUES ('Broth', 1, 1235, 'large', 1, 0), "
+                     "('Stew', 1, -5, NULL, 0, 1), ('Tea', 2, 300, '', 1, 1)");
+    }
+
+    TestDatabase database;
+    MenuRepository menu{database.handle()};
+    MenuItemModel model{&menu};
+};
 } // namespace
 
 class tst_MenuItemModel : public ZelvanTest
@@ -33,11 +40,9 @@ private slots:
 
 void tst_MenuItemModel::itIsEmptyUntilACategoryIsChosen()
 {
-    const TestDatabase database;
-    fillMenu(database);
-    MenuRepository menu(database.handle());
+    Fixture f;
 
-    const MenuItemModel model(&menu);
+    const MenuItemModel model(&f.menu);
 
     QCOMPARE(model.categoryId(), -1);
     QCOMPARE(model.rowCount(), 0);
@@ -48,77 +53,62 @@ void tst_MenuItemModel::itIsEmptyUntilACategoryIsChosen()
 
 void tst_MenuItemModel::itListsTheItemsOfItsCategoryWithPricesInUnits()
 {
-    const TestDatabase database;
-    fillMenu(database);
-    MenuRepository menu(database.handle());
-    MenuItemModel model(&menu);
-    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    Fixture f;
+    QSignalSpy resets(&f.model, &QAbstractItemModel::modelReset);
 
-    model.setCategoryId(1);
+    f.model.setCategoryId(1);
 
     QCOMPARE(resets.count(), 1);
-    QCOMPARE(ModelRows::column(model, "id"), QVariantList({1, 2}));
-    QCOMPARE(ModelRows::column(model, "item"), QVariantList({"Broth", "Stew"}));
-    QCOMPARE(ModelRows::column(model, "price"), QVariantList({12.35, -0.05}));
-    QCOMPARE(ModelRows::column(model, "categoryId"), QVariantList({1, 1}));
-    QCOMPARE(ModelRows::column(model, "portion"), QVariantList({"large", ""}));
-    QCOMPARE(ModelRows::column(model, "available"), QVariantList({true, false}));
-    QCOMPARE(ModelRows::column(model, "taxable"), QVariantList({false, true}));
+    QCOMPARE(ModelRows::column(f.model, "id"), QVariantList({1, 2}));
+    QCOMPARE(ModelRows::column(f.model, "item"), QVariantList({"Broth", "Stew"}));
+    QCOMPARE(ModelRows::column(f.model, "price"), QVariantList({12.35, -0.05}));
+    QCOMPARE(ModelRows::column(f.model, "categoryId"), QVariantList({1, 1}));
+    QCOMPARE(ModelRows::column(f.model, "portion"), QVariantList({"large", ""}));
+    QCOMPARE(ModelRows::column(f.model, "available"), QVariantList({true, false}));
+    QCOMPARE(ModelRows::column(f.model, "taxable"), QVariantList({false, true}));
 }
 
 void tst_MenuItemModel::theSameCategoryAgainDoesNothing()
 {
-    const TestDatabase database;
-    fillMenu(database);
-    MenuRepository menu(database.handle());
-    MenuItemModel model(&menu);
-    model.setCategoryId(1);
-    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    Fixture f;
+    f.model.setCategoryId(1);
+    QSignalSpy resets(&f.model, &QAbstractItemModel::modelReset);
 
-    model.setCategoryId(1);
+    f.model.setCategoryId(1);
 
     QCOMPARE(resets.count(), 0);
 }
 
 void tst_MenuItemModel::categoryMinusOneEmptiesTheList()
 {
-    const TestDatabase database;
-    fillMenu(database);
-    MenuRepository menu(database.handle());
-    MenuItemModel model(&menu);
-    model.setCategoryId(1);
+    Fixture f;
+    f.model.setCategoryId(1);
 
-    model.setCategoryId(-1);
+    f.model.setCategoryId(-1);
 
-    QCOMPARE(model.rowCount(), 0);
+    QCOMPARE(f.model.rowCount(), 0);
 }
 
 void tst_MenuItemModel::aReloadOfAnotherCategoryKeepsTheFilter()
 {
-    const TestDatabase database;
-    fillMenu(database);
-    MenuRepository menu(database.handle());
-    MenuItemModel model(&menu);
-    model.setCategoryId(1);
+    Fixture f;
+    f.model.setCategoryId(1);
 
-    model.reload(2);
+    f.model.reload(2);
 
-    QCOMPARE(model.categoryId(), 1);
-    QCOMPARE(ModelRows::column(model, "item"), QVariantList({"Tea"}));
+    QCOMPARE(f.model.categoryId(), 1);
+    QCOMPARE(ModelRows::column(f.model, "item"), QVariantList({"Tea"}));
 }
 
 void tst_MenuItemModel::anUnknownRowOrRoleHasNoValue()
 {
-    const TestDatabase database;
-    fillMenu(database);
-    MenuRepository menu(database.handle());
-    MenuItemModel model(&menu);
-    model.setCategoryId(1);
+    Fixture f;
+    f.model.setCategoryId(1);
 
-    QVERIFY(!model.data(QModelIndex(), MenuItemModel::IdRole).isValid());
-    QVERIFY(!model.data(model.index(2), MenuItemModel::IdRole).isValid());
-    QVERIFY(!model.data(model.index(0), Qt::DisplayRole).isValid());
-    QCOMPARE(model.rowCount(model.index(0)), 0);
+    QVERIFY(!f.model.data(QModelIndex(), MenuItemModel::IdRole).isValid());
+    QVERIFY(!f.model.data(f.model.index(2), MenuItemModel::IdRole).isValid());
+    QVERIFY(!f.model.data(f.model.index(0), Qt::DisplayRole).isValid());
+    QCOMPARE(f.model.rowCount(f.model.index(0)), 0);
 }
 
 ZELVAN_TEST(tst_MenuItemModel)

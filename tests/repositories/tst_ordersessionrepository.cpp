@@ -40,6 +40,21 @@ OrderSession filledSession()
     return session;
 }
 
+/// The fields that a creation and an update alike store.
+void verifyFilled(const OrderSession &session)
+{
+    QCOMPARE(session.display_number, 4711);
+    QCOMPARE(session.table_id, std::optional(1));
+    QCOMPARE(session.order_type, QStringLiteral("dine_in"));
+    QCOMPARE(session.status, QStringLiteral("open"));
+    QCOMPARE(session.points_earned, 3);
+    QCOMPARE(session.points_redeemed, 4);
+    QCOMPARE(session.subtotal, 1000.0);
+    QCOMPARE(session.tax, 60.0);
+    QCOMPARE(session.discount, 10.0);
+    QCOMPARE(session.total, 1050.0);
+}
+
 QList<int> idsOf(const QList<OrderSession> &sessions)
 {
     QList<int> ids;
@@ -121,17 +136,8 @@ void tst_OrderSessionRepository::aCreatedSessionHasNoReceiptNumberAndNoClosingTi
     QCOMPARE(session.id, 1);
     const std::optional<OrderSession> found = f.sessions.getSessionById(1);
     QVERIFY(found);
-    QCOMPARE(found->display_number, 4711);
     QVERIFY(!found->receipt_number.has_value());
-    QCOMPARE(found->table_id, std::optional(1));
-    QCOMPARE(found->order_type, QStringLiteral("dine_in"));
-    QCOMPARE(found->status, QStringLiteral("open"));
-    QCOMPARE(found->points_earned, 3);
-    QCOMPARE(found->points_redeemed, 4);
-    QCOMPARE(found->subtotal, 1000.0);
-    QCOMPARE(found->tax, 60.0);
-    QCOMPARE(found->discount, 10.0);
-    QCOMPARE(found->total, 1050.0);
+    verifyFilled(*found);
     QVERIFY(found->opened_at.has_value());
     QVERIFY(*found->opened_at > QStringLiteral("2000"));
     QVERIFY(!found->closed_at.has_value());
@@ -161,17 +167,9 @@ void tst_OrderSessionRepository::anUpdateLeavesOpeningAndClosingTimeAlone()
     QVERIFY(f.sessions.update(changed));
 
     const std::optional<OrderSession> found = f.sessions.getSessionById(id);
-    QCOMPARE(found->display_number, 4711);
+    QVERIFY(found);
     QCOMPARE(found->receipt_number, std::optional(QStringLiteral("2026-7")));
-    QCOMPARE(found->table_id, std::optional(1));
-    QCOMPARE(found->order_type, QStringLiteral("dine_in"));
-    QCOMPARE(found->status, QStringLiteral("open"));
-    QCOMPARE(found->points_earned, 3);
-    QCOMPARE(found->points_redeemed, 4);
-    QCOMPARE(found->subtotal, 1000.0);
-    QCOMPARE(found->tax, 60.0);
-    QCOMPARE(found->discount, 10.0);
-    QCOMPARE(found->total, 1050.0);
+    verifyFilled(*found);
     QCOMPARE(found->opened_at, std::optional(QStringLiteral("2026-03-04 10:00:00")));
     QCOMPARE(found->closed_at, std::optional(QStringLiteral("2026-03-04 11:00:00")));
 }
