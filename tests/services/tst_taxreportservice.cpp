@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/TaxReportRepository.h"
 #include "services/TaxReportService.h"
-#include "support/MovedClock.h"
+#include "support/ChildProcess.h"
 #include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 
