@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 import zelvan
+import zelvan.Theme 1.0
 
 // Asks for the label, the seats and the shape of a new table. The values stay for the next opening.
 ModalFrame {
@@ -61,6 +62,7 @@ ModalFrame {
             to: 20
             value: 4
             Accessible.name: root.seatsTitle
+            font.pixelSize: Theme.fontNormal
         }
 
         PlainLabel {

@@ -24,6 +24,7 @@ ComboBox {
     displayText: currentIndex < 0 ? givenValue ?? "" : currentText
     font.pixelSize: Theme.fontNormal
     implicitHeight: 40
+    popup.font.pixelSize: Theme.fontNormal
     textRole: "text"
     valueRole: "value"
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import Zelvan.Services 1.0
+import zelvan.Theme 1.0
 import ZelvanTest 1.0
 
 // The five pages that read a map, show it and write it back.
@@ -249,6 +250,17 @@ ZelvanTestCase {
         show("admin/settings/AdminRegionalSettings")
 
         compare([choice("App Language").currentValue, choice("Currency").currentValue], data.shown)
+    }
+
+    function test_the_entries_are_as_large_as_the_choice_itself() {
+        show("admin/settings/AdminRegionalSettings")
+        const currency = choice("Currency")
+
+        click(currency)
+
+        compare(button("RM (MYR)").font.pixelSize, Theme.fontNormal)
+        compare(currency.font.pixelSize, Theme.fontNormal)
+        currency.popup.close()
     }
 
     function test_a_stored_value_that_is_not_on_offer_is_shown_and_kept_data() {

@@ -120,6 +120,7 @@ ModalFrame {
                     to: 100
                     value: 2
                     Accessible.name: qsTranslate("OrderTakingFloorPlan", "Number Of Guests")
+                    font.pixelSize: Theme.fontNormal
                 }
 
                 PlainLabel {
@@ -158,6 +159,7 @@ ModalFrame {
                     stepSize: 30
                     value: 90
                     Accessible.name: qsTranslate("OrderTakingFloorPlan", "Duration (minutes)")
+                    font.pixelSize: Theme.fontNormal
                 }
 
                 PlainLabel {
