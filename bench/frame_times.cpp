@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "bench/BenchPage.h"
 #include "bench/BenchStore.h"
+#include "bench/Figures.h"
 #include "bench/FrameMeter.h"
 #include "bench/HistoryGenerator.h"
 #include "bench/PlainDatabase.h"
@@ -12,7 +13,6 @@
 #include <QDateTime>
 #include <QFile>
 #include <QGuiApplication>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QLoggingCategory>
 #include <QQmlEngine>
@@ -21,8 +21,6 @@
 #include <QStyleHints>
 #include <QTemporaryDir>
 #include <QtMath>
-
-#include <cstdio>
 
 namespace {
 constexpr int planItems = 100;
@@ -207,12 +205,5 @@ int main(int argc, char *argv[])
     }
     const int category = prepare(path);
     const QJsonObject figures = measure(path, category, sessionCount, parser.value(frames).toInt());
-
-    const QByteArray json = QJsonDocument(figures).toJson();
-    std::fputs(json.constData(), stdout);
-    QFile file(parser.value(out));
-    if (!file.fileName().isEmpty()) {
-        return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() ? 0 : 1;
-    }
-    return 0;
+    return tellFigures(figures, parser.value(out)) ? 0 : 1;
 }

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
+#include "bench/Figures.h"
 #include "bench/HistoryGenerator.h"
 #include "bench/Measuring.h"
 
@@ -7,7 +8,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QLoggingCategory>
 #include <QProcess>
@@ -101,11 +101,5 @@ int main(int argc, char *argv[])
         {QStringLiteral("bare_megabytes"), median(bareMemory)},
         {QStringLiteral("megabytes_on_top"), median(programMemory) - median(bareMemory)},
     };
-    const QByteArray json = QJsonDocument(figures).toJson();
-    std::fputs(json.constData(), stdout);
-    QFile file(parser.value(out));
-    if (!file.fileName().isEmpty()) {
-        return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() ? 0 : 1;
-    }
-    return 0;
+    return tellFigures(figures, parser.value(out)) ? 0 : 1;
 }
