@@ -9,6 +9,17 @@ bool isRow(Statement &statement)
 {
     return statement.run() && statement.next();
 }
+
+/// Of the columns id, username, password and role.
+User readUser(const Statement &row)
+{
+    User user;
+    user.id = row.integer(0);
+    user.username = row.text(1);
+    user.password = row.text(2);
+    user.role = row.text(3);
+    return user;
+}
 } // namespace
 
 UserRepository::UserRepository(const QSqlDatabase &database)
@@ -84,11 +95,7 @@ std::optional<User> UserRepository::findById(int id) const
     if (!isRow(statement)) {
         return std::nullopt;
     }
-    User user;
-    user.id = statement.integer(0);
-    user.username = statement.text(1);
-    user.password = statement.text(2);
-    user.role = statement.text(3);
+    User user = readUser(statement);
     user.deactivated_at = statement.text(4);
     return user;
 }
@@ -105,12 +112,7 @@ std::optional<User> UserRepository::findByUsername(const QString &username) cons
         return std::nullopt;
     }
     // The stamp is left out on purpose: the row is an active user's.
-    User user;
-    user.id = statement.integer(0);
-    user.username = statement.text(1);
-    user.password = statement.text(2);
-    user.role = statement.text(3);
-    return user;
+    return readUser(statement);
 }
 
 std::optional<bool> UserRepository::isEmpty() const
