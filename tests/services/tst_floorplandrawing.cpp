@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "support/FloorStore.h"
 #include "support/ModelRows.h"
-#include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 
 #include <memory>
@@ -14,7 +13,7 @@ class tst_FloorPlanDrawing : public ZelvanTest
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { m_store.reset(); }
 
     void aTableIsStoredAtOnceAndItsDrawingWaitsForTheSave();
     void aTableHasItsDefaults();
@@ -33,26 +32,14 @@ private slots:
 
 private:
     [[nodiscard]] FloorPlanService &service() { return m_store->service; }
-    [[nodiscard]] int count(const QString &table) const
-    {
-        return m_database->value(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)).toInt();
-    }
 
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<FloorStore> m_store;
 };
 
 void tst_FloorPlanDrawing::init()
 {
     ZelvanTest::init();
-    m_database = std::make_unique<TestDatabase>();
-    m_store = std::make_unique<FloorStore>(m_database->handle());
-}
-
-void tst_FloorPlanDrawing::cleanup()
-{
-    m_store.reset();
-    m_database.reset();
+    m_store = std::make_unique<FloorStore>();
 }
 
 void tst_FloorPlanDrawing::aTableIsStoredAtOnceAndItsDrawingWaitsForTheSave()
@@ -90,9 +77,10 @@ void tst_FloorPlanDrawing::aTableIsStoredAtOnceAndItsDrawingWaitsForTheSave()
     QCOMPARE(item.opacity, 0.5);
     QCOMPARE(item.z_order, 4);
     QCOMPARE(item.metadata, std::optional(QStringLiteral(R"({"table_type":"rectangle"})")));
-    QCOMPARE(m_database->value("SELECT table_name || capacity || status FROM tables").toString(),
-             QStringLiteral("A16available"));
-    QCOMPARE(count("canvas_items"), 0);
+    QCOMPARE(
+        m_store->database.value("SELECT table_name || capacity || status FROM tables").toString(),
+        QStringLiteral("A16available"));
+    QCOMPARE(m_store->count("canvas_items"), 0);
 }
 
 void tst_FloorPlanDrawing::aTableHasItsDefaults()
@@ -123,9 +111,9 @@ void tst_FloorPlanDrawing::aTableWithABlankNameFailsAtTheSave()
     expectLog(QtWarningMsg, "Insert failed:");
     QVERIFY(!service().saveCanvas(1));
 
-    QCOMPARE(m_database->value("SELECT group_concat(label) FROM canvas_items").toString(),
+    QCOMPARE(m_store->database.value("SELECT group_concat(label) FROM canvas_items").toString(),
              QStringLiteral("stored"));
-    QCOMPARE(count("tables"), 0);
+    QCOMPARE(m_store->count("tables"), 0);
 }
 
 void tst_FloorPlanDrawing::anItemIsOnlyDrawn()
@@ -159,7 +147,7 @@ void tst_FloorPlanDrawing::anItemIsOnlyDrawn()
     QCOMPARE(item.z_order, 4);
     QCOMPARE(item.metadata, std::optional(QStringLiteral("{}")));
     QVERIFY(!item.capacity && !item.status);
-    QCOMPARE(count("tables"), 0);
+    QCOMPARE(m_store->count("tables"), 0);
 }
 
 void tst_FloorPlanDrawing::anItemHasItsDefaults()
@@ -196,13 +184,13 @@ void tst_FloorPlanDrawing::aSaveKeepsTablesAndRenewsRows()
     QCOMPARE(service().createFloor("Hall"), 1);
     const int table = m_store->drawTable("A1");
     QVERIFY(service().saveCanvas(1));
-    const int firstRow = m_database->value("SELECT id FROM canvas_items").toInt();
+    const int firstRow = m_store->database.value("SELECT id FROM canvas_items").toInt();
 
     QVERIFY(service().saveCanvas(1));
 
-    QVERIFY(m_database->value("SELECT id FROM canvas_items").toInt() > firstRow);
-    QCOMPARE(m_database->value("SELECT table_id FROM canvas_items").toInt(), table);
-    QCOMPARE(count("tables"), 1);
+    QVERIFY(m_store->database.value("SELECT id FROM canvas_items").toInt() > firstRow);
+    QCOMPARE(m_store->database.value("SELECT table_id FROM canvas_items").toInt(), table);
+    QCOMPARE(m_store->count("tables"), 1);
 }
 
 void tst_FloorPlanDrawing::anEmptyCanvasEmptiesTheFloor()
@@ -214,7 +202,7 @@ void tst_FloorPlanDrawing::anEmptyCanvasEmptiesTheFloor()
     service().clearCanvas();
     QVERIFY(service().saveCanvas(1));
 
-    QCOMPARE(count("canvas_items"), 0);
+    QCOMPARE(m_store->count("canvas_items"), 0);
 }
 
 void tst_FloorPlanDrawing::clearingTouchesOnlyTheModel()
@@ -226,8 +214,8 @@ void tst_FloorPlanDrawing::clearingTouchesOnlyTheModel()
     service().clearCanvas();
 
     QCOMPARE(service().canvasModel()->rowCount(), 0);
-    QCOMPARE(count("canvas_items"), 1);
-    QCOMPARE(count("tables"), 1);
+    QCOMPARE(m_store->count("canvas_items"), 1);
+    QCOMPARE(m_store->count("tables"), 1);
 }
 
 void tst_FloorPlanDrawing::deletingATableIsNotUndoneByLeaving()
@@ -240,7 +228,7 @@ void tst_FloorPlanDrawing::deletingATableIsNotUndoneByLeaving()
     service().deleteItem(0);
     service().loadCanvas(1);
 
-    QCOMPARE(m_database->value("SELECT group_concat(table_name) FROM tables").toString(),
+    QCOMPARE(m_store->database.value("SELECT group_concat(table_name) FROM tables").toString(),
              QStringLiteral("A2"));
     QCOMPARE(ModelRows::column(*service().canvasModel(), "label"), QVariantList({"A2"}));
 }
@@ -266,7 +254,7 @@ void tst_FloorPlanDrawing::aRowOutOfRangeDeletesNothing()
     service().deleteItem(1);
 
     QCOMPARE(service().canvasModel()->rowCount(), 1);
-    QCOMPARE(count("tables"), 1);
+    QCOMPARE(m_store->count("tables"), 1);
 }
 
 ZELVAN_TEST(tst_FloorPlanDrawing)

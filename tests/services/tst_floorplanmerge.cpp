@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "support/FloorStore.h"
 #include "support/ModelRows.h"
-#include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 
 #include <QJsonDocument>
@@ -17,7 +16,7 @@ class tst_FloorPlanMerge : public ZelvanTest
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { m_store.reset(); }
 
     void anEmptyOrUnknownFloorIsShownEmpty();
     void aTableShowsItsSeatsAndItsStatus();
@@ -47,27 +46,20 @@ private:
         return QJsonDocument::fromJson(shown(row, "metadata").toString().toUtf8()).object();
     }
 
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<FloorStore> m_store;
 };
 
 void tst_FloorPlanMerge::init()
 {
     ZelvanTest::init();
-    m_database = std::make_unique<TestDatabase>();
-    m_database->run("INSERT INTO floors (name, floor_number, sort_order) VALUES ('Hall', 1, 1)");
-    m_store = std::make_unique<FloorStore>(m_database->handle());
-}
-
-void tst_FloorPlanMerge::cleanup()
-{
-    m_store.reset();
-    m_database.reset();
+    m_store = std::make_unique<FloorStore>();
+    m_store->database.run(
+        "INSERT INTO floors (name, floor_number, sort_order) VALUES ('Hall', 1, 1)");
 }
 
 int tst_FloorPlanMerge::drawTable(const QString &metadata)
 {
-    const int table = m_database->insert(
+    const int table = m_store->database.insert(
         "INSERT INTO tables (table_name, capacity, status) VALUES ('A1', 6, 'occupied')");
     CanvasItem item;
     item.table_id = table;
@@ -83,7 +75,7 @@ int tst_FloorPlanMerge::drawTable(const QString &metadata)
 
 void tst_FloorPlanMerge::book(int tableId, const QString &time, const QString &status)
 {
-    m_database->run(
+    m_store->database.run(
         QStringLiteral("INSERT INTO reservations (customer_name, customer_phone, pax, table_id, "
                        "reservation_datetime, duration_minutes, status, notes) "
                        "VALUES ('Mei', '555', 4, %1, '%2', 90, '%3', 'window')")
@@ -130,8 +122,8 @@ void tst_FloorPlanMerge::otherItemsPassThroughUnchanged()
 void tst_FloorPlanMerge::aTableWhoseRowHasGoneShowsNeither()
 {
     drawTable();
-    m_database->run("PRAGMA foreign_keys = OFF");
-    m_database->run("DELETE FROM tables");
+    m_store->database.run("PRAGMA foreign_keys = OFF");
+    m_store->database.run("DELETE FROM tables");
 
     m_store->service.loadCanvas(1);
 
@@ -147,7 +139,7 @@ void tst_FloorPlanMerge::aBookingIsLaidOverWhateverTheStatus()
     m_store->service.loadCanvas(1);
 
     QCOMPARE(shown(0, "status"), QVariant("reserved"));
-    QCOMPARE(m_database->value("SELECT status FROM tables"), QVariant("occupied"));
+    QCOMPARE(m_store->database.value("SELECT status FROM tables"), QVariant("occupied"));
 }
 
 void tst_FloorPlanMerge::theEarliestBookingCountsWhateverItsDate()
@@ -243,7 +235,7 @@ void tst_FloorPlanMerge::hostileTextStaysText()
     m_store->service.loadCanvas(1);
 
     QCOMPARE(shownMetadata(0).value("table_type").toString(), script);
-    QCOMPARE(m_database->value("SELECT COUNT(*) FROM tables"), QVariant(1));
+    QCOMPARE(m_store->database.value("SELECT COUNT(*) FROM tables"), QVariant(1));
 }
 
 void tst_FloorPlanMerge::aStoredCopyOutlivesItsReservation()
@@ -252,7 +244,7 @@ void tst_FloorPlanMerge::aStoredCopyOutlivesItsReservation()
     book(table, "2026-06-01 18:00:00");
     m_store->service.loadCanvas(1);
     QVERIFY(m_store->service.saveCanvas(1));
-    m_database->run("UPDATE reservations SET status = 'completed'");
+    m_store->database.run("UPDATE reservations SET status = 'completed'");
 
     m_store->service.loadCanvas(1);
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "support/FloorStore.h"
 #include "support/ModelRows.h"
-#include "support/TestDatabase.h"
 #include "support/ZelvanTest.h"
 
 #include <QMetaMethod>
@@ -18,7 +17,7 @@ class tst_FloorPlanService : public ZelvanTest
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { m_store.reset(); }
 
     void itsSignaturesAreThoseTheScreensCall();
     void floorsAreThereFromTheStartInTheirOrder();
@@ -41,26 +40,14 @@ private slots:
 
 private:
     [[nodiscard]] FloorPlanService &service() { return m_store->service; }
-    [[nodiscard]] int count(const QString &table) const
-    {
-        return m_database->value(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)).toInt();
-    }
 
-    std::unique_ptr<TestDatabase> m_database;
     std::unique_ptr<FloorStore> m_store;
 };
 
 void tst_FloorPlanService::init()
 {
     ZelvanTest::init();
-    m_database = std::make_unique<TestDatabase>();
-    m_store = std::make_unique<FloorStore>(m_database->handle());
-}
-
-void tst_FloorPlanService::cleanup()
-{
-    m_store.reset();
-    m_database.reset();
+    m_store = std::make_unique<FloorStore>();
 }
 
 void tst_FloorPlanService::itsSignaturesAreThoseTheScreensCall()
@@ -81,18 +68,19 @@ void tst_FloorPlanService::itsSignaturesAreThoseTheScreensCall()
 
 void tst_FloorPlanService::floorsAreThereFromTheStartInTheirOrder()
 {
-    m_database->run("INSERT INTO floors (name, floor_number, sort_order, is_active) VALUES "
-                    "('Garden', 2, 2, 0), ('Hall', 1, 1, 1)");
+    m_store->database.run("INSERT INTO floors (name, floor_number, sort_order, is_active) VALUES "
+                          "('Garden', 2, 2, 0), ('Hall', 1, 1, 1)");
 
-    const FloorStore store(m_database->handle());
+    const FloorPlanService started(&m_store->floors, &m_store->items, &m_store->tables,
+                                   &m_store->reservations, &m_store->tableService);
 
-    QCOMPARE(ModelRows::column(*store.service.floorModel(), "name"),
-             QVariantList({"Hall", "Garden"}));
+    QCOMPARE(ModelRows::column(*started.floorModel(), "name"), QVariantList({"Hall", "Garden"}));
 }
 
 void tst_FloorPlanService::floorsAreLoadedAnew()
 {
-    m_database->run("INSERT INTO floors (name, floor_number, sort_order) VALUES ('Hall', 1, 1)");
+    m_store->database.run(
+        "INSERT INTO floors (name, floor_number, sort_order) VALUES ('Hall', 1, 1)");
 
     service().loadFloors();
 
@@ -107,9 +95,9 @@ void tst_FloorPlanService::aFloorIsCreatedAtTheEnd()
     const QVariantMap expected{
         {"id", 2}, {"name", "Garden"}, {"floor_number", 2}, {"sort_order", 2}, {"is_active", 1}};
     QCOMPARE(service().floorModel()->getFloor(1), expected);
-    QCOMPARE(m_database
-                 ->value("SELECT name || floor_number || sort_order || is_active "
-                         "FROM floors WHERE id = 2")
+    QCOMPARE(m_store->database
+                 .value("SELECT name || floor_number || sort_order || is_active "
+                        "FROM floors WHERE id = 2")
                  .toString(),
              QStringLiteral("Garden221"));
 }
@@ -132,8 +120,8 @@ void tst_FloorPlanService::numbersCountRowsAndMayRepeat()
 
 void tst_FloorPlanService::aFailedCreationAnswersMinusOne()
 {
-    m_database->run("CREATE TRIGGER refuse BEFORE INSERT ON floors "
-                    "BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    m_store->database.run("CREATE TRIGGER refuse BEFORE INSERT ON floors "
+                          "BEGIN SELECT RAISE(ABORT, 'refused'); END");
 
     expectLog(QtWarningMsg, "Failed to create floor:");
     QCOMPARE(service().createFloor("Hall"), -1);
@@ -149,28 +137,29 @@ void tst_FloorPlanService::aFloorIsUpdatedInStoreAndModel()
     QVERIFY(service().updateFloor({2, "Terrace", 7, 8, 0}));
 
     QCOMPARE(ModelRows::column(*service().floorModel(), "name"), QVariantList({"Hall", "Terrace"}));
-    QCOMPARE(m_database
-                 ->value("SELECT name || floor_number || sort_order || is_active "
-                         "FROM floors WHERE id = 2")
+    QCOMPARE(m_store->database
+                 .value("SELECT name || floor_number || sort_order || is_active "
+                        "FROM floors WHERE id = 2")
                  .toString(),
              QStringLiteral("Terrace780"));
 }
 
 void tst_FloorPlanService::aFloorThatIsNotShownIsUpdatedInTheStore()
 {
-    m_database->run("INSERT INTO floors (name, floor_number, sort_order) VALUES ('Hall', 1, 1)");
+    m_store->database.run(
+        "INSERT INTO floors (name, floor_number, sort_order) VALUES ('Hall', 1, 1)");
 
     QVERIFY(service().updateFloor({1, "Roof", 1, 1, 1}));
 
-    QCOMPARE(m_database->value("SELECT name FROM floors").toString(), QStringLiteral("Roof"));
+    QCOMPARE(m_store->database.value("SELECT name FROM floors").toString(), QStringLiteral("Roof"));
     QCOMPARE(service().floorModel()->rowCount(), 0);
 }
 
 void tst_FloorPlanService::aFailedUpdateLeavesTheModel()
 {
     QCOMPARE(service().createFloor("Hall"), 1);
-    m_database->run("CREATE TRIGGER refuse BEFORE UPDATE ON floors "
-                    "BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    m_store->database.run("CREATE TRIGGER refuse BEFORE UPDATE ON floors "
+                          "BEGIN SELECT RAISE(ABORT, 'refused'); END");
 
     QVERIFY(!service().updateFloor({1, "Roof", 1, 1, 1}));
 
@@ -190,9 +179,9 @@ void tst_FloorPlanService::aFloorGoesWithItsItemsAndTables()
     QVERIFY(service().deleteFloor(1));
 
     QCOMPARE(tablesChanged.count(), 1);
-    QCOMPARE(count("floors"), 0);
-    QCOMPARE(count("canvas_items"), 0);
-    QCOMPARE(m_database->value("SELECT group_concat(table_name) FROM tables").toString(),
+    QCOMPARE(m_store->count("floors"), 0);
+    QCOMPARE(m_store->count("canvas_items"), 0);
+    QCOMPARE(m_store->database.value("SELECT group_concat(table_name) FROM tables").toString(),
              QStringLiteral("A2"));
     QCOMPARE(service().floorModel()->rowCount(), 0);
 }
@@ -200,11 +189,12 @@ void tst_FloorPlanService::aFloorGoesWithItsItemsAndTables()
 void tst_FloorPlanService::aFloorThatIsNotShownIsDeletedInTheStore()
 {
     QCOMPARE(service().createFloor("Hall"), 1);
-    m_database->run("INSERT INTO floors (name, floor_number, sort_order) VALUES ('Roof', 2, 2)");
+    m_store->database.run(
+        "INSERT INTO floors (name, floor_number, sort_order) VALUES ('Roof', 2, 2)");
 
     QVERIFY(service().deleteFloor(2));
 
-    QCOMPARE(count("floors"), 1);
+    QCOMPARE(m_store->count("floors"), 1);
     QCOMPARE(ModelRows::column(*service().floorModel(), "name"), QVariantList({"Hall"}));
 }
 
@@ -214,14 +204,14 @@ void tst_FloorPlanService::aFloorThatCannotBeDeletedLosesItsTables()
     m_store->drawTable("A1");
     service().addItem({{"type", "wall"}});
     QVERIFY(service().saveCanvas(1));
-    m_database->run("CREATE TRIGGER refuse BEFORE DELETE ON floors "
-                    "BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    m_store->database.run("CREATE TRIGGER refuse BEFORE DELETE ON floors "
+                          "BEGIN SELECT RAISE(ABORT, 'refused'); END");
 
     QVERIFY(!service().deleteFloor(1));
 
-    QCOMPARE(count("floors"), 1);
-    QCOMPARE(count("tables"), 0);
-    QCOMPARE(m_database->value("SELECT group_concat(type) FROM canvas_items").toString(),
+    QCOMPARE(m_store->count("floors"), 1);
+    QCOMPARE(m_store->count("tables"), 0);
+    QCOMPARE(m_store->database.value("SELECT group_concat(type) FROM canvas_items").toString(),
              QStringLiteral("wall"));
     QCOMPARE(service().floorModel()->rowCount(), 1);
 }

@@ -9,20 +9,15 @@
 #include "services/FloorPlanService.h"
 #include "services/TableService.h"
 #include "support/ModelRows.h"
+#include "support/TestDatabase.h"
 
-#include <QSqlDatabase>
-
-/// The repositories behind the floor plan on one handle and the services above them.
+/// The repositories behind the floor plan on a database of their own and the services above them.
 struct FloorStore
 {
-    explicit FloorStore(const QSqlDatabase &database)
-        : floors(database)
-        , items(database)
-        , tables(database)
-        , reservations(database)
-        , tableService(&tables)
-        , service(&floors, &items, &tables, &reservations, &tableService)
-    {}
+    [[nodiscard]] int count(const QString &table) const
+    {
+        return database.value(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)).toInt();
+    }
 
     /// Draws a table on the shown floor; its id in `tables`.
     int drawTable(const QString &label)
@@ -32,10 +27,11 @@ struct FloorStore
         return ModelRows::value(model, model.rowCount() - 1, "table_id").toInt();
     }
 
-    FloorRepository floors;
-    CanvasItemRepository items;
-    TableRepository tables;
-    ReservationRepository reservations;
-    TableService tableService;
-    FloorPlanService service;
+    TestDatabase database;
+    FloorRepository floors{database.handle()};
+    CanvasItemRepository items{database.handle()};
+    TableRepository tables{database.handle()};
+    ReservationRepository reservations{database.handle()};
+    TableService tableService{&tables};
+    FloorPlanService service{&floors, &items, &tables, &reservations, &tableService};
 };
