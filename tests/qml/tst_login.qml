@@ -51,11 +51,13 @@ ScreenTestCase {
     function test_a_role_without_a_home_stays_on_the_form_without_a_message() {
         addUser("first", "admin")
         addUser("ann", "Service Staff")
+        Window.window.showNormal()
 
         logIn("ann", "secret")
 
         compare(shownScreen(), "Login")
         compare(AuthService.currentUserRole, "Service Staff")
+        compare(Window.window.visibility, Window.Maximized)
         verify(!shows("Invalid username or password."))
     }
 
