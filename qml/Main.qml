@@ -60,6 +60,7 @@ Window {
             id: stackView
 
             anchors.fill: parent
+            focus: true
         }
     }
 

@@ -8,7 +8,7 @@ import zelvan
 import zelvan.Theme 1.0
 
 // The first screen of a program that is set up. The role decides the home screen.
-Item {
+FocusScope {
     id: root
 
     readonly property var homes: ({
@@ -55,6 +55,7 @@ Item {
                 LabelledField {
                     id: usernameField
 
+                    input.focus: true
                     label: qsTr("Username")
                     placeholderText: qsTr("Enter username")
                     spacing: 12

@@ -205,6 +205,25 @@ ScreenTestCase {
         verify(shows("boss"))
     }
 
+    function test_typing_begins_in_the_first_field_of_a_dialog_data() {
+        return [
+            { tag: "Create User", fields: ["Username", "Password", "Confirm Password"] },
+            { tag: "Edit", fields: ["Username"] },
+            { tag: "Password", fields: ["Old Password", "New Password", "Confirm New Password"] }
+        ]
+    }
+
+    function test_typing_begins_in_the_first_field_of_a_dialog(data) {
+        addUser("boss", "admin")
+        show("admin/management/AdminUserManagement")
+        press(data.tag)
+
+        for (const label of data.fields) {
+            tryVerify(() => field(label).activeFocus, 1000, label)
+            keyClick(Qt.Key_Tab)
+        }
+    }
+
     function test_users_created_elsewhere_appear_while_the_list_is_shown() {
         addUser("boss", "admin")
         show("admin/management/AdminUserManagement")

@@ -5,6 +5,8 @@ import Zelvan.Services 1.0
 import ZelvanTest 1.0
 
 ScreenTestCase {
+    id: root
+
     name: "Login"
 
     function arrange() {
@@ -81,6 +83,24 @@ ScreenTestCase {
         compare(field("Password").text, data.password)
         compare(shownScreen(), "Login")
         compare(AuthService.currentUsername, "")
+    }
+
+    function test_typing_begins_with_the_name() {
+        screen("auth/Login")
+
+        tryVerify(() => field("Username").activeFocus)
+        keyClick(Qt.Key_Tab)
+
+        verify(field("Password").activeFocus)
+    }
+
+    function test_whoever_sees_the_program_start_can_type_at_once() {
+        addUser("boss", "admin")
+        const component = Qt.createComponent("qrc:/qt/qml/zelvan/qml/Main.qml")
+
+        const program = createTemporaryObject(component, root)
+
+        tryVerify(() => program.activeFocusItem?.Accessible.name === "Username")
     }
 
     function test_enter_in_a_field_does_nothing() {

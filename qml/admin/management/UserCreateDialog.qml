@@ -88,4 +88,6 @@ ModalFrame {
 
         target: UserService
     }
+
+    onAboutToShow: usernameField.input.forceActiveFocus()
 }

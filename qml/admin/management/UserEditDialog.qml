@@ -54,4 +54,6 @@ ModalFrame {
             onCancelled: root.close()
         }
     }
+
+    onAboutToShow: usernameField.input.forceActiveFocus()
 }

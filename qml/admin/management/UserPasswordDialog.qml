@@ -61,4 +61,6 @@ ModalFrame {
             onCancelled: root.close()
         }
     }
+
+    onAboutToShow: oldField.input.forceActiveFocus()
 }
