@@ -57,6 +57,7 @@ private slots:
     void cleanup() { m_store.reset(); }
 
     void anOrderOfEightLines();
+    void anOrderThatJoinsAnOpenSession();
     void aPaymentWithAMember();
     void aRefreshOfTheBoard();
     void openingTheCheckoutScreen();
@@ -117,6 +118,21 @@ void tst_Statements::anOrderOfEightLines()
         expected << dishById << insertLine;
     }
     expected << totals << kitchenSettings;
+    compare(issued, expected);
+}
+
+void tst_Statements::anOrderThatJoinsAnOpenSession()
+{
+    QVERIFY(m_store->orderAtTable(m_table, {TestStore::line(m_soup)}) > 0);
+
+    const QByteArrayList issued = statementsOf(
+        [&] { QVERIFY(m_store->orderAtTable(m_table, {TestStore::line(m_soup)}) > 0); });
+
+    // No number for the session, and nothing about its table.
+    const QByteArrayList expected =
+        QByteArrayList{findOpenSession, sessionById, reservationsOfTable, highestOrder,
+                       insertOrder,     dishById,    insertLine} +
+        totals + QByteArrayList{kitchenSettings};
     compare(issued, expected);
 }
 
