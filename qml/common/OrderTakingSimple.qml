@@ -93,10 +93,6 @@ Item {
         currentOrderId = -1
     }
 
-    function money(amount: real): string {
-        return currencySymbol + amount.toFixed(2)
-    }
-
     implicitWidth: 800
     implicitHeight: 600
 
@@ -224,33 +220,17 @@ Item {
                         }
                     }
 
-                    ListView {
+                    OrderLineList {
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                         visible: !root.showEditOrdersList
-                        clip: true
                         spacing: 2
-                        // Far rows stay made, so that a remark typed into one is still shown there.
-                        cacheBuffer: 4000
-                        model: orderModel
-
-                        Accessible.role: Accessible.List
-                        Accessible.name: qsTr("Current Order")
-
-                        delegate: OrderLineRow {
-                            required property var model
-
-                            width: ListView.view.width
-                            height: 56
-                            name: model.name
-                            price: root.money(model.price)
-                            quantity: model.qty
-                            removeText: qsTr("Remove")
-                            remarkPlaceholder: qsTr("Add a remark")
-                            onStepped: quantity => orderModel.setProperty(model.index, "qty", quantity)
-                            onRemarkEdited: remark => orderModel.setProperty(model.index, "notes", remark)
-                            onRemoveRequested: orderModel.remove(model.index)
-                        }
+                        lines: orderModel
+                        title: qsTr("Current Order")
+                        currencySymbol: root.currencySymbol
+                        rowHeight: 56
+                        removeText: qsTr("Remove")
+                        remarkPlaceholder: qsTr("Add a remark")
                     }
 
                     ListView {
@@ -274,27 +254,18 @@ Item {
                         }
                     }
 
-                    ColumnLayout {
-                        Layout.fillWidth: true
+                    OrderFigures {
                         Layout.leftMargin: 8
                         Layout.rightMargin: 8
                         visible: !root.showEditOrdersList
                         spacing: 4
-
-                        FigureRow {
-                            caption: qsTr("Total Items:")
-                            figure: root.totalItems
-                        }
-
-                        FigureRow {
-                            caption: qsTr("Subtotal:")
-                            figure: root.money(root.subtotal)
-                        }
-
-                        FigureRow {
-                            caption: qsTr("Total:")
-                            figure: root.money(root.total)
-                        }
+                        itemsCaption: qsTr("Total Items:")
+                        subtotalCaption: qsTr("Subtotal:")
+                        totalCaption: qsTr("Total:")
+                        totalItems: root.totalItems
+                        subtotal: root.subtotal
+                        total: root.total
+                        currencySymbol: root.currencySymbol
                     }
 
                     // An order without a type passes, which is meant: it is stored with none and no

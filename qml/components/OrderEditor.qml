@@ -62,10 +62,6 @@ Rectangle {
             item.pop()
     }
 
-    function money(amount: real): string {
-        return currencySymbol + amount.toFixed(2)
-    }
-
     implicitWidth: 800
     implicitHeight: 600
     color: Theme.background
@@ -133,28 +129,15 @@ Rectangle {
                         text: qsTr("Current Order")
                     }
 
-                    ListView {
+                    OrderLineList {
                         Layout.fillWidth: true
                         Layout.fillHeight: true
-                        clip: true
                         spacing: 6
-                        model: orderModel
-
-                        Accessible.role: Accessible.List
-                        Accessible.name: qsTr("Current Order")
-
-                        delegate: OrderLineRow {
-                            required property var model
-
-                            width: ListView.view.width
-                            height: 64
-                            name: model.name
-                            price: root.money(model.price)
-                            quantity: model.qty
-                            removeText: qsTr("Remove")
-                            onStepped: quantity => orderModel.setProperty(model.index, "qty", quantity)
-                            onRemoveRequested: orderModel.remove(model.index)
-                        }
+                        lines: orderModel
+                        title: qsTr("Current Order")
+                        currencySymbol: root.currencySymbol
+                        rowHeight: 64
+                        removeText: qsTr("Remove")
                     }
 
                     Rectangle {
@@ -163,19 +146,15 @@ Rectangle {
                         color: Theme.border
                     }
 
-                    FigureRow {
-                        caption: qsTr("Items:")
-                        figure: root.totalItems
-                    }
-
-                    FigureRow {
-                        caption: qsTr("Subtotal:")
-                        figure: root.money(root.subtotal)
-                    }
-
-                    FigureRow {
-                        caption: qsTr("Total:")
-                        figure: root.money(root.total)
+                    OrderFigures {
+                        spacing: 10
+                        itemsCaption: qsTr("Items:")
+                        subtotalCaption: qsTr("Subtotal:")
+                        totalCaption: qsTr("Total:")
+                        totalItems: root.totalItems
+                        subtotal: root.subtotal
+                        total: root.total
+                        currencySymbol: root.currencySymbol
                     }
 
                     PrimaryButton {

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+import QtQuick
+import zelvan
+
+// The lines of the order being keyed in. The texts are the screen's, so that they are translated
+// with it; without a placeholder for remarks the lines have no field for one.
+ListView {
+    id: root
+
+    required property ListModel lines
+    required property string title
+    required property string currencySymbol
+    required property int rowHeight
+    required property string removeText
+    property string remarkPlaceholder
+
+    clip: true
+    // Far rows stay made, so that a remark typed into one is still shown there.
+    cacheBuffer: 4000
+    model: lines
+
+    Accessible.role: Accessible.List
+    Accessible.name: title
+
+    delegate: OrderLineRow {
+        required property var model
+
+        width: ListView.view.width
+        height: root.rowHeight
+        name: model.name
+        price: root.currencySymbol + model.price.toFixed(2)
+        quantity: model.qty
+        removeText: root.removeText
+        remarkPlaceholder: root.remarkPlaceholder
+        onStepped: quantity => root.lines.setProperty(model.index, "qty", quantity)
+        onRemarkEdited: remark => root.lines.setProperty(model.index, "notes", remark)
+        onRemoveRequested: root.lines.remove(model.index)
+    }
+}
