@@ -105,7 +105,7 @@ Rectangle {
         }
     }
 
-    // Brings in what other pages and other computers' programs changed.
+    // Brings in what no signal tells of: an edited order, a payment.
     Timer {
         interval: 1000
         repeat: true

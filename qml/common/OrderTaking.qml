@@ -6,6 +6,7 @@ import Zelvan.Services 1.0
 
 // The order page: the floor plan or the plain table list, as the store has chosen.
 Loader {
+    anchors.fill: parent
     sourceComponent: SettingService.tableLayoutMode === "floor_plan" ? floorPlan : simple
 
     Component {

@@ -314,6 +314,13 @@ ZelvanTestCase {
         compare(texts().filter(text => text === "<img src='x'>").length, 2)
     }
 
+    function test_the_page_fills_its_parent() {
+        const frame = createTemporaryQmlObject("import QtQuick; import zelvan; Item { width: 900; height: 500; OrderTaking {} }", root)
+
+        compare(frame.children[0].width, 900)
+        compare(frame.children[0].height, 500)
+    }
+
     function test_the_layout_mode_switches_the_page_at_once() {
         FloorPlanService.createFloor("Hall")
         show("common/OrderTaking")
