@@ -46,14 +46,10 @@ RowLayout {
         }
     }
 
-    PlainLabel {
+    PriceLabel {
         Layout.preferredWidth: 70
         text: root.price
         color: root.textColor
-        // A long currency symbol makes the figures smaller before it cuts them off.
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 8
-        elide: Text.ElideRight
     }
 
     PlainLabel {
@@ -68,6 +64,7 @@ RowLayout {
         enabled: root.available
         dimmed: false
         text: root.addText
+        Accessible.description: root.name
         fillColor: root.available ? Theme.primary() : Theme.secondaryText
         leftPadding: root.addSidePadding
         rightPadding: root.addSidePadding

@@ -105,9 +105,8 @@ Rectangle {
             onTextEdited: root.editedName = text
         }
 
-        PlainLabel {
+        PriceLabel {
             Layout.preferredWidth: 90
-            elide: Text.ElideLeft
             horizontalAlignment: Text.AlignRight
             text: root.currencySymbol + root.price.toFixed(2)
             visible: !root.isEditing
@@ -184,6 +183,7 @@ Rectangle {
             }
 
             RowButton {
+                Accessible.description: root.item
                 fillColor: Theme.primary()
                 text: root.isEditing ? qsTranslate("AdminMenuManagement", "Save")
                                      : qsTranslate("AdminMenuManagement", "Edit")
@@ -192,6 +192,7 @@ Rectangle {
             }
 
             RowButton {
+                Accessible.description: root.item
                 fillColor: "red"
                 text: qsTranslate("AdminMenuManagement", "Delete")
 

@@ -125,6 +125,7 @@ Rectangle {
             }
 
             RowButton {
+                Accessible.description: root.name
                 fillColor: Theme.primary()
                 text: root.isEditing ? qsTranslate("AdminTableManagement", "Save")
                                      : qsTranslate("AdminTableManagement", "Edit")
@@ -133,6 +134,7 @@ Rectangle {
             }
 
             RowButton {
+                Accessible.description: root.name
                 fillColor: "red"
                 text: qsTranslate("AdminTableManagement", "Delete")
 
