@@ -125,6 +125,12 @@ TestCase {
         click(button(text, index))
     }
 
+    // Of a dialog over the page: its buttons are painted after those of the rows.
+    function answerWith(answer: string) {
+        const found = allShown(item => isButton(item) && item.text === answer)
+        mouseClick(found[found.length - 1])
+    }
+
     function click(item) {
         mouseClick(item)
         settle()

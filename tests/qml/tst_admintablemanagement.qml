@@ -128,12 +128,6 @@ ZelvanTestCase {
         compare(tables(), [{ table_name: "Hall", capacity: 20 }])
     }
 
-    // The dialog's buttons are painted after those of the rows.
-    function answerWith(answer: string) {
-        const found = allShown(item => isButton(item) && item.text === answer)
-        mouseClick(found[found.length - 1])
-    }
-
     function test_a_table_is_deleted_only_after_a_yes_data() {
         return [{ tag: "Cancel", left: 1 }, { tag: "Delete", left: 0 }]
     }

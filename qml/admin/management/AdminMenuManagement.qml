@@ -116,12 +116,12 @@ Rectangle {
                 }
             }
 
-            ListView {
+            EditableList {
+                id: itemList
+
                 Layout.fillHeight: true
                 Layout.fillWidth: true
-                clip: true
                 model: MenuService.menuItemModel
-                reuseItems: true
                 spacing: 4
                 visible: root.categorySelected
 
@@ -168,6 +168,7 @@ Rectangle {
     Connections {
         function onCurrentCategoryIdChanged(): void {
             rowDrafts.clear()
+            itemList.positionViewAtBeginning()
         }
 
         target: MenuService

@@ -72,12 +72,10 @@ Rectangle {
             }
         }
 
-        ListView {
+        EditableList {
             Layout.fillHeight: true
             Layout.fillWidth: true
-            clip: true
             model: TableService.tableModel
-            reuseItems: true
             spacing: 4
 
             delegate: EditableTableRow {

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import Zelvan.Services 1.0
 import zelvan
 import zelvan.Theme 1.0
 
-// One category: a click selects it, a right click offers to rename or delete it.
+// One category: a click selects it, a right click asks for the menu of what can be done with it.
 Rectangle {
     id: root
 
@@ -17,7 +16,7 @@ Rectangle {
     property string originalCategory
     readonly property bool selected: root.categoryId === MenuService.currentCategoryId
 
-    signal deleteRequested(int categoryId, string name)
+    signal menuRequested
 
     function startEditing(): void {
         root.originalCategory = root.name
@@ -27,14 +26,27 @@ Rectangle {
         renameField.selectAll()
     }
 
-    function commit(): void {
+    // Ends the editing. The new name, empty where nothing is to be renamed.
+    function takeNewName(): string {
         if (!root.isEditing)
-            return
-        // First, since the renaming rebuilds the rows.
+            return ""
         root.isEditing = false
         const newName = root.editedCategory.trim()
-        if (newName !== "" && newName !== root.originalCategory)
+        return newName === root.originalCategory ? "" : newName
+    }
+
+    function commit(): void {
+        const newName = root.takeNewName()
+        if (newName !== "")
             MenuService.renameCategory(root.categoryId, newName)
+    }
+
+    // Not at once: the renaming fills the list anew, and would crash in the middle of its moving or
+    // its being filled already.
+    function pool(): void {
+        const newName = root.takeNewName()
+        if (newName !== "")
+            Qt.callLater(MenuService.renameCategory, root.categoryId, newName) // qmllint disable type
     }
 
     function cancel(): void {
@@ -72,7 +84,7 @@ Rectangle {
 
         onClicked: mouse => {
             if (mouse.button === Qt.RightButton)
-                contextMenu.popup()
+                root.menuRequested()
             else
                 root.select()
         }
@@ -95,22 +107,6 @@ Rectangle {
         onTextEdited: root.editedCategory = text
     }
 
-    Menu {
-        id: contextMenu
-
-        MenuItem {
-            text: qsTranslate("AdminMenuManagement", "Rename")
-
-            onTriggered: root.startEditing()
-        }
-
-        MenuItem {
-            text: qsTranslate("AdminMenuManagement", "Delete")
-
-            onTriggered: root.deleteRequested(root.categoryId, root.name)
-        }
-    }
-
     Accessible.onPressAction: root.select()
-    ListView.onPooled: root.commit()
+    ListView.onPooled: root.pool()
 }

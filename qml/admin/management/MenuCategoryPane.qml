@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
+import QtQuick.Controls
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
@@ -19,18 +20,23 @@ ColumnLayout {
             newCategoryField.clear()
     }
 
+    function startRenaming(row: int): void {
+        list.positionViewAtIndex(row, ListView.Contain)
+        list.itemAtIndex(row)?.startEditing()
+    }
+
     spacing: 12
 
     PageHeading {
         text: qsTranslate("AdminMenuManagement", "Categories")
     }
 
-    ListView {
+    EditableList {
+        id: list
+
         Layout.fillHeight: true
         Layout.fillWidth: true
-        clip: true
         model: MenuService.categoryModel
-        reuseItems: true
 
         delegate: EditableCategoryRow {
             required property var model
@@ -39,7 +45,7 @@ ColumnLayout {
             categoryId: model.id
             name: model.name
 
-            onDeleteRequested: (categoryId, name) => root.deleteRequested(categoryId, name)
+            onMenuRequested: contextMenu.openFor(model.index, model.id, model.name)
         }
     }
 
@@ -60,6 +66,34 @@ ColumnLayout {
             text: qsTranslate("AdminMenuManagement", "Add Category")
 
             onClicked: root.add()
+        }
+    }
+
+    // Not the row's own: opening it commits a name that is typed in another row, which rebuilds all.
+    Menu {
+        id: contextMenu
+
+        property int row: -1
+        property int categoryId: -1
+        property string name
+
+        function openFor(row: int, categoryId: int, name: string): void {
+            contextMenu.row = row
+            contextMenu.categoryId = categoryId
+            contextMenu.name = name
+            contextMenu.popup()
+        }
+
+        MenuItem {
+            text: qsTranslate("AdminMenuManagement", "Rename")
+
+            onTriggered: root.startRenaming(contextMenu.row)
+        }
+
+        MenuItem {
+            text: qsTranslate("AdminMenuManagement", "Delete")
+
+            onTriggered: root.deleteRequested(contextMenu.categoryId, contextMenu.name)
         }
     }
 }

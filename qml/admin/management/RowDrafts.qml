@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 
-// What rows were being edited to when they scrolled out of sight, by the record's id. Rows are used
-// again for other records, so they may not keep it themselves.
+// What rows were being edited to when they went out of sight or the list was filled anew, by the
+// record's id. Rows are used again for other records, so they may not keep it themselves.
 QtObject {
     id: root
 
