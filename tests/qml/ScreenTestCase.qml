@@ -43,6 +43,7 @@ ZelvanTestCase {
         id: stackView
 
         anchors.fill: parent
+        focus: true
     }
 
     QtObject {
