@@ -263,14 +263,9 @@ void tst_DatabaseService::anUnfitRestoreFileIsRefusedAtOnce()
     QFETCH(QString, name);
     QFETCH(QString, ownLine);
     QFETCH(QString, connectionLine);
-    QDir().mkpath(inFolder("folder"));
-    DatabaseFiles::makeForeign(inFolder("foreign.db"));
-    DatabaseFiles::makeText(inFolder("text.db"));
+    makeUnfitFiles();
 
-    if (!connectionLine.isEmpty()) {
-        expectLog(QtWarningMsg, connectionLine);
-    }
-    expectLog(QtWarningMsg, ownLine);
+    expectRefusal(connectionLine, ownLine);
     QVERIFY(!m_service.restoreDatabase(inFolder(name)));
 
     QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
@@ -320,9 +315,7 @@ void tst_DatabaseService::anUnfitDatabaseIsNotOpened()
     QFETCH(QString, name);
     QFETCH(QString, ownLine);
     QFETCH(QString, connectionLine);
-    QDir().mkpath(inFolder("folder"));
-    DatabaseFiles::makeForeign(inFolder("foreign.db"));
-    DatabaseFiles::makeText(inFolder("text.db"));
+    makeUnfitFiles();
     QString path = name.isEmpty() ? QString() : inFolder(name);
     if (name == QLatin1String("long")) {
         DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
@@ -330,10 +323,7 @@ void tst_DatabaseService::anUnfitDatabaseIsNotOpened()
         QVERIFY(QFile::copy(inFolder("Zelvan.db"), path));
     }
 
-    if (!connectionLine.isEmpty()) {
-        expectLog(QtWarningMsg, connectionLine);
-    }
-    expectLog(QtWarningMsg, ownLine);
+    expectRefusal(connectionLine, ownLine);
     QVERIFY(!m_service.openDatabase(path));
 
     QVERIFY(!m_app.hasDatabasePath());

@@ -130,15 +130,11 @@ void tst_PendingRestore::anUnfitStagedFileIsForgotten()
     QFETCH(QString, name);
     QFETCH(QString, ownLine);
     QFETCH(QString, connectionLine);
-    QDir().mkpath(inFolder("folder"));
-    DatabaseFiles::makeForeign(inFolder("foreign.db"));
+    makeUnfitFiles();
     DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
     stage(inFolder(name), inFolder("Zelvan.db"));
 
-    if (!connectionLine.isEmpty()) {
-        expectLog(QtWarningMsg, connectionLine);
-    }
-    expectLog(QtWarningMsg, ownLine);
+    expectRefusal(connectionLine, ownLine);
     QVERIFY(!DatabaseService::applyPendingRestore());
 
     QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));

@@ -3,7 +3,9 @@
 #include "support/DatabaseFileTest.h"
 
 #include "core/DatabaseManager.h"
+#include "support/DatabaseFiles.h"
 
+#include <QDir>
 #include <QSettings>
 
 void DatabaseFileTest::init()
@@ -28,4 +30,19 @@ void DatabaseFileTest::addFolderNames()
     QTest::newRow("hash") << "a#b";
     QTest::newRow("percent") << "100%20 %1 %";
     QTest::newRow("Chinese") << QString::fromUtf8("餐厅");
+}
+
+void DatabaseFileTest::makeUnfitFiles() const
+{
+    QDir().mkpath(inFolder(QStringLiteral("folder")));
+    DatabaseFiles::makeForeign(inFolder(QStringLiteral("foreign.db")));
+    DatabaseFiles::makeText(inFolder(QStringLiteral("text.db")));
+}
+
+void DatabaseFileTest::expectRefusal(const QString &connectionLine, const QString &ownLine)
+{
+    if (!connectionLine.isEmpty()) {
+        expectLog(QtWarningMsg, connectionLine);
+    }
+    expectLog(QtWarningMsg, ownLine);
 }

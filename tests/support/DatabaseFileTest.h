@@ -25,6 +25,12 @@ protected:
     /// The column "name" with names of folders, plain and awkward ones.
     static void addFolderNames();
 
+    /// Puts what is no store's database into the folder: "folder", "foreign.db" and "text.db".
+    void makeUnfitFiles() const;
+    /// Announces the warnings of a refused file: its connection's, unless empty, then the
+    /// service's.
+    static void expectRefusal(const QString &connectionLine, const QString &ownLine);
+
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
