@@ -17,6 +17,11 @@ ModalFrame {
 
     signal confirmed(string name)
 
+    function confirm() {
+        root.confirmed(nameField.text)
+        root.close()
+    }
+
     width: 360
     height: 260
 
@@ -34,6 +39,7 @@ ModalFrame {
             Layout.fillWidth: true
             label: root.label
             placeholderText: root.placeholder
+            input.onAccepted: root.confirm()
         }
 
         Item {
@@ -44,11 +50,10 @@ ModalFrame {
             Layout.fillWidth: true
             acceptText: root.confirmText
             cancelText: root.cancelText
-            onAccepted: {
-                root.confirmed(nameField.text)
-                root.close()
-            }
+            onAccepted: root.confirm()
             onCancelled: root.close()
         }
     }
+
+    onAboutToShow: nameField.input.forceActiveFocus()
 }

@@ -89,4 +89,6 @@ ModalFrame {
             onCancelled: root.close()
         }
     }
+
+    onAboutToShow: labelField.forceActiveFocus()
 }

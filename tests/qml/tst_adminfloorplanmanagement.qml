@@ -62,6 +62,26 @@ ZelvanTestCase {
         verify(hasButton("Add Table"))
     }
 
+    function test_a_name_can_be_typed_and_confirmed_at_once() {
+        editor()
+        press("+ New Floor")
+        tryVerify(() => hasButton("Create Floor"))
+
+        for (const letter of "Hall")
+            keyClick(letter)
+        keyClick(Qt.Key_Return)
+
+        tryVerify(() => !hasButton("Create Floor"))
+        verify(button("Hall").checked)
+        press("Add Table")
+        tryVerify(() => hasButton("Create Table"))
+        keySequence(StandardKey.SelectAll)
+        for (const letter of "A1")
+            keyClick(letter)
+        press("Create Table")
+        compare(items_()[0].label, "A1")
+    }
+
     function test_an_empty_name_is_accepted_and_the_field_keeps_its_text() {
         editor()
         addFloor("Hall")

@@ -61,6 +61,19 @@ ZelvanTestCase {
         compare(answers, [])
     }
 
+    function test_what_is_typed_meanwhile_reaches_nothing_behind_it() {
+        const behind = create("components/ThemedField")
+        behind.forceActiveFocus()
+        open()
+
+        for (const letter of "abc")
+            keyClick(letter)
+
+        compare(behind.text, "")
+        press("Cancel")
+        tryVerify(() => !dialog.visible)
+    }
+
     function test_without_a_listener_it_just_closes() {
         open({ confirmCallback: null })
 

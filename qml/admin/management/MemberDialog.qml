@@ -17,7 +17,6 @@ ModalFrame {
 
     width: 700
     height: 500
-    focus: true
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
     onAboutToShow: {

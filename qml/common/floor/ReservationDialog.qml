@@ -194,4 +194,6 @@ ModalFrame {
             }
         }
     }
+
+    onAboutToShow: nameField.forceActiveFocus()
 }
