@@ -17,6 +17,7 @@ public:
     bool saveAll(int floorId, const QList<CanvasItem> &items);
     /// By ascending draw order; `capacity` and `status` absent.
     [[nodiscard]] QList<CanvasItem> fetchByFloor(int floorId) const;
+    /// False on failure, of which nothing is logged.
     bool remove(int itemId);
 
 private:

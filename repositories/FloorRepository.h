@@ -17,8 +17,10 @@ public:
 
     /// The new id, -1 on failure.
     int create(const Floor &floor);
+    /// False on failure, of which nothing is logged.
     bool update(const Floor &floor);
-    /// Takes the floor's items along, by the foreign key.
+    /// Takes the floor's items along, by the foreign key. False on failure, of which nothing is
+    /// logged.
     bool remove(int floorId);
 
     [[nodiscard]] std::optional<Floor> fetchById(int floorId) const;

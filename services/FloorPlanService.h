@@ -38,6 +38,7 @@ public:
     Q_INVOKABLE void loadFloors();
     /// The new id, or -1. Any name will do, an empty one too.
     Q_INVOKABLE int createFloor(const QString &name);
+    /// Stores the floor and then shows it so; false when the store refuses.
     bool updateFloor(const Floor &floor);
     /// Takes the floor's items and their tables along.
     Q_INVOKABLE bool deleteFloor(int floorId);
