@@ -20,8 +20,7 @@ Rectangle {
         readyOrders = root.fresh("ready", root.readyOrders)
     }
 
-    // A column that did not change keeps its cards, so that the poll takes no button from under a
-    // finger and no list jumps back to its top.
+    // A column that did not change is not touched by the poll.
     function fresh(status: string, shown: var): var {
         const orders = KitchenOrderService.getOrdersByStatus(status)
         return JSON.stringify(orders) === JSON.stringify(shown) ? shown : orders
@@ -38,6 +37,28 @@ Rectangle {
         property var model: []
         property string actionText
         property string nextState
+        // The orders on show, by id.
+        property var orders: ({})
+
+        // Orders that stay keep their cards, so that a change takes no button from under a finger and
+        // no list jumps back to its top.
+        function showOrders() {
+            const shown = {}
+            for (const order of model)
+                shown[order.id] = order
+            orders = shown
+            for (let row = ids.count - 1; row >= 0; --row) {
+                if (!(ids.get(row).orderId in shown))
+                    ids.remove(row)
+            }
+            model.forEach((order, row) => {
+                if (row === ids.count || ids.get(row).orderId !== order.id)
+                    ids.insert(row, { orderId: order.id })
+            })
+            // Orders that stand in another order than before were put in a second time.
+            if (ids.count > model.length)
+                ids.remove(model.length, ids.count - model.length)
+        }
 
         Layout.fillWidth: true
         Layout.fillHeight: true
@@ -56,26 +77,33 @@ Rectangle {
             color: Theme.primary()
         }
 
+        ListModel {
+            id: ids
+        }
+
         ListView {
             Layout.fillWidth: true
             Layout.fillHeight: true
             clip: true
             spacing: 12
-            model: column.model
+            model: ids
 
             Accessible.role: Accessible.List
             Accessible.name: column.title
 
             delegate: KitchenCard {
-                required property var modelData
+                required property int orderId
 
                 width: ListView.view.width
-                order: modelData
+                // A card that is about to go has no order any more.
+                order: column.orders[orderId] ?? { items: [] }
                 noteTitle: qsTr("NOTE: ")
                 actionText: column.actionText
-                onActed: KitchenOrderService.markState(order.id, column.nextState)
+                onActed: KitchenOrderService.markState(orderId, column.nextState)
             }
         }
+
+        onModelChanged: showOrders()
     }
 
     RowLayout {

@@ -96,6 +96,70 @@ ZelvanTestCase {
         compare(button("START"), shown)
     }
 
+    function columnOf(title: string): var {
+        return theShown(item => item.indexAt !== undefined && item.Accessible.name === title, "the column " + title)
+    }
+
+    function test_a_new_order_leaves_the_cards_standing_where_they_are() {
+        for (let i = 0; i < 12; ++i)
+            order("takeaway", {})
+        show("common/KitchenOrders")
+        columnOf("NEW").positionViewAtIndex(6, ListView.Beginning)
+        const card = row("#" + page.pendingOrders[6].display_number)
+        const place = card.mapToItem(page, 0, 0).y
+
+        order("takeaway", {})
+
+        compare(page.pendingOrders.length, 13)
+        compare(row("#" + page.pendingOrders[6].display_number), card)
+        compare(card.mapToItem(page, 0, 0).y, place)
+    }
+
+    function test_an_order_that_leaves_moves_the_next_cards_up() {
+        const first = order("takeaway", {})
+        order("takeaway", {})
+        show("common/KitchenOrders")
+        const place = row("#" + page.pendingOrders[0].display_number).mapToItem(page, 0, 0).y
+        const next = row("#" + page.pendingOrders[1].display_number)
+
+        KitchenOrderService.markState(first, "served")
+
+        compare(row("#" + page.pendingOrders[0].display_number), next)
+        compare(next.mapToItem(page, 0, 0).y, place)
+    }
+
+    function test_a_changed_order_keeps_its_card() {
+        const id = order("takeaway", {})
+        show("common/KitchenOrders")
+        const start = button("START")
+        TestDb.run("UPDATE orders SET notes = 'hurry' WHERE id = " + id)
+
+        page.loadOrders()
+
+        verify(shows("NOTE: hurry"))
+        compare(button("START"), start)
+    }
+
+    function test_orders_that_come_back_stand_by_their_age() {
+        for (let i = 0; i < 4; ++i)
+            order("takeaway", {})
+        show("common/KitchenOrders")
+        const [first, second, third, fourth] = page.pendingOrders.map(order => order.id)
+        const shown = () => allShown(item => item.orderId !== undefined).sort((a, b) => a.y - b.y).map(card => card.orderId)
+        compare(shown(), [first, second, third, fourth])
+
+        KitchenOrderService.markState(first, "burnt")
+        KitchenOrderService.markState(third, "burnt")
+        compare(shown(), [second, fourth])
+        KitchenOrderService.markState(third, "pending")
+        KitchenOrderService.markState(first, "pending")
+        compare(shown(), [first, second, third, fourth])
+        TestDb.run("UPDATE orders SET created_at = datetime('now', '-1 hour') WHERE id = " + fourth)
+        page.loadOrders()
+
+        compare(shown(), [fourth, first, second, third])
+    }
+
     function test_an_order_without_a_kitchen_display_never_shows_data() {
         return [{ tag: "none" }, { tag: "tickets" }]
     }
