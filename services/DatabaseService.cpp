@@ -157,6 +157,9 @@ bool DatabaseService::openDatabase(const QString &dbFilePath)
         qCWarning(lcDatabase) << "Database is not a Zelvan database.";
         return false;
     }
+    // A restore that is still waiting for the next start, since its copy failed, was meant for the
+    // file before this one: it would take the chosen one's place.
+    QSettings().remove(SettingsKeys::pendingRestore);
     m_app->setDatabasePath(dbFilePath);
     qCInfo(lcDatabase) << "Database selected successfully.";
     return true;

@@ -28,7 +28,8 @@ public:
     Q_INVOKABLE bool backupDatabase();
     /// Validates the file and stages it for the next start; nothing else changes yet.
     Q_INVOKABLE bool restoreDatabase(const QString &dbFilePath);
-    /// Validates the file and makes it the configured one for the next start.
+    /// Validates the file and makes it the configured one for the next start, without any restore
+    /// that was still to come.
     Q_INVOKABLE bool openDatabase(const QString &dbFilePath);
     /// Moves the live database into "ZelvanPOS/data" below the folder. Nothing is deleted until the
     /// copy has been opened and configured; a failure before that ends back on the old file.

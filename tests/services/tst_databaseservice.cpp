@@ -39,6 +39,7 @@ private slots:
     void anUnfitRestoreFileIsRefusedAtOnce();
 
     void anOpenedDatabaseBecomesTheConfiguredOne();
+    void aRestoreThatFailedLeavesTheDatabaseOpenedInsteadAlone();
     void anUnfitDatabaseIsNotOpened_data();
     void anUnfitDatabaseIsNotOpened();
 
@@ -282,6 +283,20 @@ void tst_DatabaseService::anOpenedDatabaseBecomesTheConfiguredOne()
 
     QCOMPARE(m_app.databasePath(), inFolder("other.db"));
     QCOMPARE(DatabaseManager::connection().databaseName(), inFolder("Zelvan.db"));
+}
+
+void tst_DatabaseService::aRestoreThatFailedLeavesTheDatabaseOpenedInsteadAlone()
+{
+    DatabaseFiles::makeStore(inFolder("other.db"), "other");
+    DatabaseFiles::makeStore(inFolder("staged.db"), "staged");
+    m_app.setDatabasePath(inFolder("Zelvan.db"));
+    QSettings().setValue(SettingsKeys::pendingRestore, inFolder("staged.db"));
+
+    expectLog(QtInfoMsg, "Database selected successfully.");
+    QVERIFY(m_service.openDatabase(inFolder("other.db")));
+
+    QVERIFY(DatabaseService::applyPendingRestore());
+    QCOMPARE(DatabaseFiles::storeName(inFolder("other.db")), QStringLiteral("other"));
 }
 
 void tst_DatabaseService::anUnfitDatabaseIsNotOpened_data()
