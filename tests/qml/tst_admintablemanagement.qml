@@ -158,6 +158,28 @@ ZelvanTestCase {
         compare(TestDb.rows("SELECT status, table_id IS NULL AS tableless FROM order_sessions"), [{ status: "open", tableless: 1 }])
     }
 
+    function test_a_row_names_its_buttons_to_a_screen_reader() {
+        TableService.addTable("Window", 4)
+
+        show("admin/management/AdminTableManagement")
+
+        compare(row("Window").height, 44)
+        compare(button("Edit").Accessible.description, "Window")
+        compare(button("Delete").Accessible.description, "Window")
+    }
+
+    function test_editing_goes_on_when_an_order_changes_a_table() {
+        const table = TableService.addTable("Window", 4)
+        TableService.addTable("Door", 2)
+        edit()
+        enter("Table Name", "Half typed")
+
+        TableService.setTableStatus(table, "occupied")
+
+        compare(field("Table Name").text, "Half typed")
+        verify(hasButton("Save"))
+    }
+
     function test_a_name_is_shown_as_it_was_typed() {
         TableService.addTable("<b>x</b>", 4)
 

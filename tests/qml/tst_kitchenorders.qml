@@ -3,6 +3,7 @@
 import QtQuick
 import QtTest
 import Zelvan.Services 1.0
+import zelvan.Theme 1.0
 import ZelvanTest 1.0
 
 ZelvanTestCase {
@@ -38,6 +39,20 @@ ZelvanTestCase {
         for (const text of ["NEW", "PREPARING", "READY", "#" + page.pendingOrders[0].display_number, "DINE_IN", "Table Window", "Burger (L) x2", "- no onion", "Soup x1", "NOTE: Birthday"])
             verify(shows(text), text)
         verify(id > 0)
+    }
+
+    function test_a_card_is_as_high_as_its_content_and_24_more() {
+        order("takeaway", { notes: "Birthday" })
+
+        show("common/KitchenOrders")
+
+        const card = row("#" + page.pendingOrders[0].display_number)
+        compare(card.height, card.children[0].implicitHeight + 24)
+        compare(card.children[0].y, 12)
+        compare(card.radius, 6)
+        compare(button("START").height, 38)
+        compare(theShown(item => item.text === "NOTE: Birthday", "the note").color, Theme.orange)
+        compare(theShown(item => item.text === "- no onion", "the remark").color, Theme.orange)
     }
 
     function test_a_takeaway_shows_its_type_in_capitals_and_no_table() {

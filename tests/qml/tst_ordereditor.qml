@@ -77,6 +77,22 @@ ZelvanTestCase {
         verify(!price.truncated)
     }
 
+    function test_columns_and_rows_have_their_sizes() {
+        push({ tableLabel: "Window 7" })
+        press("Add", 1)
+
+        compare(button("Back").parent.parent.height, 64)
+        compare(row("Food").height, 44)
+        compare(theShown(item => item.text === "Price", "the price's title").width, 70)
+        compare(theShown(item => item.text === "Portion", "the portion's title").width, 100)
+        const rows = allShown(item => item.Accessible.role === Accessible.ListItem && item.Accessible.name === "Burger")
+        compare(rows.map(item => item.height), [50, 64])
+        compare([button("-").width, button("-").height, button("+").width, button("+").height], [28, 28, 28, 28])
+        compare(button("Remove").background.color, "#ff4d4d")
+        // 420 less the margins.
+        compare(button("Place Order").width, 388)
+    }
+
     function test_it_fills_the_page_of_the_stack() {
         push({})
 

@@ -3,6 +3,7 @@
 import QtQuick
 import QtTest
 import Zelvan.Services 1.0
+import zelvan.Theme 1.0
 import ZelvanTest 1.0
 
 ZelvanTestCase {
@@ -303,6 +304,39 @@ ZelvanTestCase {
             press("Print Ticket")
 
         compare(TestDb.printedDocuments() - before, data.offered ? 1 : 0)
+    }
+
+    function test_rows_tiles_and_buttons_have_their_looks() {
+        OrderService.createOrder("takeaway", [{ menuItemId: soup, qty: 1, notes: "" }], {})
+        show("common/OrderTakingSimple")
+        press("Dine In")
+        click(row("Window"))
+        compare(row("Food").height, 44)
+        compare(row("Burger").height, 44)
+        press("Add", 1)
+        const line = button("Remove").parent.parent
+        const tile = row("Window").children[0]
+
+        compare(line.height, 56)
+        compare(field("Add a remark").width, 100)
+        compare([button("-").width, button("-").height, button("+").width, button("+").height], [28, 28, 28, 28])
+        compare([tile.width, tile.height, tile.radius, tile.border.width, tile.border.color], [72, 40, 4, 3, Theme.primary()])
+        compare(row("Door").children[0].border.color, Theme.background)
+        compare(button("Dine In").background.color, Theme.primary())
+        compare(button("Takeaway").background.color, Theme.surface)
+        compare(button("New Order").background.color, "#4faba1")
+        compare(button("Edit Order").background.color, "#5f7ddc")
+        compare(button("Remove").background.color, "#ff4d4d")
+        compare(openEditList()[0].height, 75)
+    }
+
+    function test_the_buttons_of_a_row_name_it_to_a_screen_reader() {
+        show("common/OrderTakingSimple")
+        press("Add", 1)
+
+        compare(button("Add", 0).Accessible.description, "Soup")
+        for (const text of ["-", "+", "Remove"])
+            compare(button(text).Accessible.description, "Burger", text)
     }
 
     function test_names_are_shown_as_they_were_typed() {
