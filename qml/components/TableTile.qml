@@ -40,6 +40,9 @@ Item {
             color: "white"
             font.bold: true
             elide: Text.ElideRight
+            // A name gets smaller before it is cut off: "Table 10" and "Table 11" differ at their ends.
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
         }

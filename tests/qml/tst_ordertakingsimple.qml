@@ -330,6 +330,17 @@ ZelvanTestCase {
         compare(openEditList()[0].height, 75)
     }
 
+    function test_tables_of_like_names_can_be_told_apart() {
+        for (const name of ["Table 10", "Table 11"])
+            TableService.addTable(name, 4)
+        show("common/OrderTakingSimple")
+
+        press("Dine In")
+
+        for (const name of ["Table 10", "Table 11"])
+            verify(!theShown(item => item.text === name, name).truncated)
+    }
+
     function test_the_buttons_of_a_row_name_it_to_a_screen_reader() {
         show("common/OrderTakingSimple")
         press("Add", 1)
