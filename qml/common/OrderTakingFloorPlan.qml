@@ -107,6 +107,8 @@ Item {
         id: stack
 
         anchors.fill: parent
+        // A page that slides in from the left would lie over the sidebar and take its clicks.
+        clip: true
         initialItem: ColumnLayout {
             spacing: 8
 

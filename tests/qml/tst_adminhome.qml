@@ -36,6 +36,19 @@ ZelvanTestCase {
         compare(openedPage(), data.opens)
     }
 
+    function test_a_plan_that_slides_back_leaves_the_sidebar_free() {
+        setKitchenMode("kds")
+        SettingService.saveTableSettings({ id: 1, layout_mode: "floor_plan" })
+        show("admin/AdminHome")
+        press("Takeaway")
+        tryVerify(() => !theShown(item => item.depth !== undefined && item.busy !== undefined, "the stack").busy)
+
+        press("Back")
+        press("Kitchen")
+
+        compare(openedPage(), "KitchenOrders")
+    }
+
     function test_the_rows_stand_in_their_order_and_size() {
         show("admin/AdminHome")
         const rows = ["Take Order", "Checkout", "Kitchen", "Analytics", "Tax Reports", "Management", "Settings"]
