@@ -4,6 +4,8 @@
 
 #include "repositories/Statement.h"
 
+#include <optional>
+
 namespace {
 /// Where the columns of a "SELECT *" stand, looked up once a result.
 struct ItemColumns
@@ -127,15 +129,13 @@ QList<CanvasItem> CanvasItemRepository::fetchByFloor(int floorId) const
 {
     Statement statement(m_database, fetchByFloorSql, {"Failed to fetch canvas items:"});
     statement.bind(":floor_id", floorId);
-    if (!statement.run()) {
-        return {};
-    }
-    const ItemColumns at(statement);
-    QList<CanvasItem> items;
-    while (statement.next()) {
-        items.append(readItem(statement, at));
-    }
-    return items;
+    std::optional<ItemColumns> at;
+    return statement.rows([&at](const Statement &row) {
+        if (!at) {
+            at.emplace(row);
+        }
+        return readItem(row, *at);
+    });
 }
 
 bool CanvasItemRepository::remove(int itemId)

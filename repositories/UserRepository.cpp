@@ -128,17 +128,12 @@ QList<User> UserRepository::fetchAll() const
 {
     Statement statement(m_database, "SELECT id, username, role, deactivated_at FROM users",
                         {"Failed to fetch all users:"});
-    if (!statement.run()) {
-        return {};
-    }
-    QList<User> users;
-    while (statement.next()) {
+    return statement.rows([](const Statement &row) {
         User user;
-        user.id = statement.integer(0);
-        user.username = statement.text(1);
-        user.role = statement.text(2);
-        user.deactivated_at = statement.text(3);
-        users.append(user);
-    }
-    return users;
+        user.id = row.integer(0);
+        user.username = row.text(1);
+        user.role = row.text(2);
+        user.deactivated_at = row.text(3);
+        return user;
+    });
 }
