@@ -17,7 +17,7 @@ Rectangle {
 
     color: Theme.background
 
-    Menu {
+    ThemedMenu {
         id: rowMenu
 
         MenuItem {

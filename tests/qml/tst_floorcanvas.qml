@@ -3,6 +3,7 @@
 import QtQuick
 import QtTest
 import Zelvan.Services 1.0
+import zelvan.Theme 1.0
 import ZelvanTest 1.0
 
 ZelvanTestCase {
@@ -158,6 +159,7 @@ ZelvanTestCase {
         compare(page.selectedIndex, 1)
         compare(floorItems()[1].borderColor, "#9a7bff")
         tryVerify(() => hasButton("Delete"))
+        compare(button("Delete").font.pixelSize, Theme.fontNormal)
         press("Delete")
 
         compare(FloorPlanService.canvasModel.rowCount(), 1)

@@ -93,7 +93,7 @@ Item {
         onActivated: if (root.currentFloorId > 0) FloorPlanService.saveCanvas(root.currentFloorId)
     }
 
-    Menu {
+    ThemedMenu {
         id: floorMenu
 
         property int floorId: -1

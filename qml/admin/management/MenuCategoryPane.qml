@@ -70,7 +70,7 @@ ColumnLayout {
     }
 
     // Not the row's own: opening it commits a name that is typed in another row, which rebuilds all.
-    Menu {
+    ThemedMenu {
         id: contextMenu
 
         property int row: -1
