@@ -2,22 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "printing/spool/CupsSpooler.h"
 
+#include "printing/spool/CupsConnection.h"
 #include "printing/spool/CupsLibrary.h"
 
 #include <QString>
 
-#include <chrono>
 #include <string_view>
 #include <utility>
 
 namespace {
-using Clock = std::chrono::steady_clock;
-using namespace std::chrono_literals;
-
-/// Shorter than the two seconds promised, so that the log line falls inside them.
-constexpr auto patience = 1500ms;
-constexpr double secondsBetweenLooks = 0.1;
-
 std::string utf8(const std::u16string &text)
 {
     return QString::fromStdU16String(text).toStdString();
@@ -26,17 +19,6 @@ std::string utf8(const std::u16string &text)
 std::u16string utf16(const char *text)
 {
     return QString::fromUtf8(text).toStdU16String();
-}
-
-/// Nobody sits at a terminal to type a password; without this CUPS would wait for one.
-const char *noPassword(const char *, http_t *, const char *, const char *, void *)
-{
-    return nullptr;
-}
-
-bool isSuccess(ipp_status_t status)
-{
-    return status >= IPP_STATUS_OK && status <= IPP_STATUS_OK_EVENTS_COMPLETE;
 }
 
 /// The queues of an answer, in its order; an attribute group is one queue.
@@ -63,72 +45,6 @@ std::vector<RawSpooler::PrinterInfo> destinations(const CupsLibrary &cups, ipp_t
 }
 } // namespace
 
-/// A connection that is given up when the server has shown no sign of life for as long as patience
-/// lasts. Nothing more is asked of it then, so that the wait is paid once.
-class CupsSpooler::Connection final
-{
-public:
-    /// Without the library it is one to a server that does not run.
-    explicit Connection(const CupsLibrary *cups)
-        : m_cups(cups)
-    {
-        if (!m_cups) {
-            return;
-        }
-        m_cups->cupsSetPasswordCB2(noPassword, nullptr);
-        m_http = m_cups->httpConnect2(m_cups->cupsServer(), m_cups->ippPort(), nullptr, AF_UNSPEC,
-                                      m_cups->cupsEncryption(), 1,
-                                      static_cast<int>(patience.count()), nullptr);
-        if (m_http) {
-            m_cups->httpSetTimeout(m_http, secondsBetweenLooks, &Connection::keepsWaiting, this);
-        }
-    }
-    ~Connection()
-    {
-        if (m_http) {
-            m_cups->httpClose(m_http);
-        }
-    }
-    Connection(const Connection &) = delete;
-    Connection &operator=(const Connection &) = delete;
-
-    /// Both may be used while it is alive.
-    [[nodiscard]] const CupsLibrary &cups() const { return *m_cups; }
-    [[nodiscard]] http_t *http() const { return m_http; }
-    [[nodiscard]] bool alive() const { return m_http && Clock::now() < m_deadline; }
-
-    /// Passes the outcome of an exchange on; any answer in time is a sign of life.
-    bool answered(bool succeeded)
-    {
-        if (!succeeded && m_cups->httpError(m_http) != 0) {
-            m_deadline = Clock::now();
-        } else if (alive()) {
-            m_deadline = Clock::now() + patience;
-        }
-        return succeeded;
-    }
-
-    /// Why CUPS refused: never a code of success, nor one left over from an earlier exchange.
-    [[nodiscard]] std::uint32_t refusal() const
-    {
-        if (!alive()) {
-            return IPP_STATUS_ERROR_SERVICE_UNAVAILABLE;
-        }
-        const ipp_status_t status = m_cups->cupsLastError();
-        return static_cast<std::uint32_t>(isSuccess(status) ? IPP_STATUS_ERROR_INTERNAL : status);
-    }
-
-private:
-    static int keepsWaiting(http_t *, void *self)
-    {
-        return Clock::now() < static_cast<Connection *>(self)->m_deadline ? 1 : 0;
-    }
-
-    const CupsLibrary *m_cups;
-    Clock::time_point m_deadline = Clock::now() + patience;
-    http_t *m_http = nullptr;
-};
-
 /// What an open handle stands for: a queue that exists, and at most one job on it.
 class CupsSpooler::Document final
 {
@@ -149,7 +65,7 @@ public:
         cups.ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                           nullptr, "printer-name");
         cups.ippDelete(cups.cupsDoRequest(m_connection.http(), request, "/"));
-        return m_connection.answered(isSuccess(cups.cupsLastError()));
+        return m_connection.answered(CupsConnection::isSuccess(cups.cupsLastError()));
     }
 
     std::uint32_t start(const char *title)
@@ -171,12 +87,12 @@ public:
     void cancel()
     {
         if (m_job > 0 && m_connection.alive()) {
-            m_connection.answered(isSuccess(m_connection.cups().cupsCancelJob2(
+            m_connection.answered(CupsConnection::isSuccess(m_connection.cups().cupsCancelJob2(
                 m_connection.http(), m_queue.c_str(), m_job, 0)));
         }
     }
 
-    [[nodiscard]] const Connection &connection() const { return m_connection; }
+    [[nodiscard]] const CupsConnection &connection() const { return m_connection; }
     [[nodiscard]] bool started() const { return m_started && m_connection.alive(); }
 
     /// CUPS says only at the finish whether it has taken a document, so the one write of a job
@@ -204,7 +120,7 @@ public:
         http_t *http = m_connection.http();
         const ipp_status_t status = cups.cupsFinishDocument(http, m_queue.c_str());
         // The status alone is still that of the last exchange when no answer came to this one.
-        return m_connection.answered(isSuccess(status) &&
+        return m_connection.answered(CupsConnection::isSuccess(status) &&
                                      cups.httpGetStatus(http) == HTTP_STATUS_OK);
     }
 
@@ -232,13 +148,14 @@ private:
         const std::string resource = "/printers/" + m_queue;
         ipp_t *response = cups.cupsDoRequest(m_connection.http(), request, resource.c_str());
         ipp_attribute_t *id = cups.ippFindAttribute(response, "job-id", IPP_TAG_INTEGER);
-        const int job = isSuccess(cups.cupsLastError()) && id ? cups.ippGetInteger(id, 0) : 0;
+        const int job =
+            CupsConnection::isSuccess(cups.cupsLastError()) && id ? cups.ippGetInteger(id, 0) : 0;
         cups.ippDelete(response);
         return job;
     }
 
     std::string m_queue;
-    Connection m_connection;
+    CupsConnection m_connection;
     int m_job = 0;
     bool m_started = false;
 };
@@ -342,7 +259,7 @@ const CupsLibrary *CupsSpooler::cups()
 bool CupsSpooler::listDestinations()
 {
     m_destinations.clear();
-    Connection connection(cups());
+    CupsConnection connection(cups());
     if (!noted(connection.alive(), connection)) {
         return false;
     }
@@ -353,14 +270,14 @@ bool CupsSpooler::listDestinations()
     ipp_t *response = m_cups->cupsDoRequest(connection.http(), request, "/");
     // Without any queue the server says "not found".
     const ipp_status_t status = m_cups->cupsLastError();
-    const bool answered = isSuccess(status) || status == IPP_STATUS_ERROR_NOT_FOUND;
+    const bool answered = CupsConnection::isSuccess(status) || status == IPP_STATUS_ERROR_NOT_FOUND;
     m_destinations = destinations(*m_cups, response);
     m_cups->ippDelete(response);
     return noted(connection.answered(answered), connection);
 }
 
 /// Keeps the code of a failure at once, before another exchange overwrites it.
-bool CupsSpooler::noted(bool succeeded, const Connection &connection)
+bool CupsSpooler::noted(bool succeeded, const CupsConnection &connection)
 {
     if (!succeeded) {
         m_lastError = connection.refusal();

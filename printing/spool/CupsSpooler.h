@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 
+class CupsConnection;
 struct CupsLibrary;
 
 /// CUPS behind the Windows calls: an open printer is a connection to the server, a document is one
@@ -37,13 +38,12 @@ public:
     [[nodiscard]] std::uint32_t getLastError() const override;
 
 private:
-    class Connection;
     class Document;
 
     [[nodiscard]] const CupsLibrary *cups();
     [[nodiscard]] Document *document(Handle handle) const;
     bool listDestinations();
-    bool noted(bool succeeded, const Connection &connection);
+    bool noted(bool succeeded, const CupsConnection &connection);
 
     QString m_library;
     std::unique_ptr<const CupsLibrary> m_cups;
