@@ -17,9 +17,10 @@ import time
 
 import faults
 import kills
+import powercuts
 from box import Box
 
-PARTS = {"kills": kills.run, "faults": faults.run}
+PARTS = {"kills": kills.run, "faults": faults.run, "powercuts": powercuts.run}
 
 
 class Proof:
