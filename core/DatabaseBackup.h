@@ -5,7 +5,8 @@
 #include <QString>
 
 namespace DatabaseBackup {
-/// Lets SQLite write a consistent, compacted copy of the working database. Fails, with a line in
+/// Lets SQLite write a consistent, compacted copy of the working database, complete and on the disk
+/// before it has its name. Fails, with a line in
 /// the log, where the target exists already; a copy that was cut short is removed.
 [[nodiscard]] bool writeCopy(const QString &targetPath);
 } // namespace DatabaseBackup

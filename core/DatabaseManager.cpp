@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/DatabaseManager.h"
 
+#include "core/DatabaseCheck.h"
+#include "core/Durable.h"
 #include "core/Identity.h"
 #include "core/Logging.h"
 #include "core/Migrations.h"
+#include "core/Patience.h"
+#include "core/platform/FileSystem.h"
+#include "core/ShortLivedConnection.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
@@ -22,33 +26,8 @@ bool isRegistered()
     return QSqlDatabase::contains(DatabaseManager::mainConnectionName);
 }
 
-/// A connection under a name of its own, gone again at the end of the scope. Sets no pragma.
-class ShortLivedConnection final
-{
-public:
-    ShortLivedConnection(const QString &name, const QString &path)
-        : m_name(name)
-    {
-        if (QSqlDatabase::contains(name)) {
-            QSqlDatabase::removeDatabase(name);
-        }
-        m_handle = QSqlDatabase::addDatabase(driverName, name);
-        m_handle.setDatabaseName(path);
-    }
-    ~ShortLivedConnection()
-    {
-        m_handle.close();
-        m_handle = QSqlDatabase();
-        QSqlDatabase::removeDatabase(m_name);
-    }
-    Q_DISABLE_COPY_MOVE(ShortLivedConnection)
-
-    QSqlDatabase &handle() { return m_handle; }
-
-private:
-    QString m_name;
-    QSqlDatabase m_handle;
-};
+/// Longer than any reading of one row of a small table takes.
+constexpr std::chrono::seconds identityPatience{1};
 
 void dropMainConnection()
 {
@@ -67,6 +46,16 @@ void dropMainConnection()
 QSqlDatabase addMainConnection()
 {
     return QSqlDatabase::addDatabase(driverName, DatabaseManager::mainConnectionName);
+}
+
+/// SQLite would let every account of the computer read a file that it makes, and gives the files
+/// beside it the same rights. What fails here is told by the opening that follows.
+void makePrivately(const QString &path)
+{
+    static_cast<void>(Durable::makeFolder(QFileInfo(path).absolutePath()));
+    if (!QFile::exists(path)) {
+        FileSystem::createPrivateFile(path);
+    }
 }
 
 struct TransactionWords
@@ -137,6 +126,13 @@ bool DatabaseManager::isZelvanDatabase(const QString &path)
     if (!connection.handle().open()) {
         qCWarning(lcDatabase) << "Failed to open database for Zelvan validation:"
                               << connection.handle().lastError().text();
+        return false;
+    }
+    const Patience patience(connection.handle(), identityPatience);
+    const QString problem =
+        DatabaseCheck::schemaProblem(connection.handle(), {QStringLiteral("app_state")});
+    if (!problem.isEmpty()) {
+        qCWarning(lcDatabase) << "Failed to check database identity:" << problem;
         return false;
     }
     QSqlQuery query(connection.handle());
@@ -234,7 +230,7 @@ bool DatabaseManager::initialize(const QString &path)
 {
     dropMainConnection();
     QSqlDatabase database = addMainConnection();
-    QDir().mkpath(QFileInfo(path).absolutePath());
+    makePrivately(path);
     database.setDatabaseName(path);
     if (!database.open()) {
         qCCritical(lcDatabase) << "Cannot open database:" << database.lastError().text();

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/Logging.h"
 
+#include "core/Durable.h"
+#include "core/platform/FileSystem.h"
+
 #include <QDate>
 #include <QDateTime>
 #include <QDir>
@@ -90,11 +93,14 @@ void openLogFile()
 {
     LogState &log = state();
     const QString folder = logFolder();
-    QDir().mkpath(folder);
+    static_cast<void>(Durable::makeFolder(folder));
     log.currentDate = todayText();
     const QString path = QStringLiteral("%1/%2.log").arg(folder, log.currentDate);
     if (log.file.isOpen()) {
         log.file.close();
+    }
+    if (!QFile::exists(path)) {
+        FileSystem::createPrivateFile(path);
     }
     log.file.setFileName(path);
     if (log.file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text)) {

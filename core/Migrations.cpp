@@ -130,6 +130,16 @@ const QStringList &migrationNames()
     return names;
 }
 
+QStringList schemaTables()
+{
+    QStringList tables{QStringLiteral("applied_migrations")};
+    for (const QString &name : migrationNames()) {
+        // Each script makes the one table that it is named for.
+        tables += name.section(QStringLiteral("_create_"), 1).section(QLatin1Char('.'), 0, 0);
+    }
+    return tables;
+}
+
 bool applyPendingMigrations(const QSqlDatabase &database)
 {
     if (!createMigrationTable(database)) {

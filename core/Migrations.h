@@ -10,6 +10,9 @@ class QSqlDatabase;
 /// the path below ":/migrations/", so none may ever change; a new version adds at the end.
 const QStringList &migrationNames();
 
+/// The names of the tables that the scripts make, and of the one that records them.
+[[nodiscard]] QStringList schemaTables();
+
 /// Applies and records the scripts that `applied_migrations` does not name yet, in running order,
 /// and stops at the first failure, which is logged. The transaction around it is the caller's.
 [[nodiscard]] bool applyPendingMigrations(const QSqlDatabase &database);

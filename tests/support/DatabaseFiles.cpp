@@ -81,6 +81,27 @@ void DatabaseFiles::makeText(const QString &path)
     }
 }
 
+void DatabaseFiles::makeDamaged(const QString &path)
+{
+    makeStore(path, QStringLiteral("damaged"));
+    damage(path, QStringLiteral("orders"),
+           QByteArray(value(path, QStringLiteral("PRAGMA page_size")).toInt(), '\0'));
+}
+
+void DatabaseFiles::damage(const QString &path, const QString &table, const QByteArray &bytes)
+{
+    const qint64 pageSize = value(path, QStringLiteral("PRAGMA page_size")).toLongLong();
+    const qint64 page =
+        value(path,
+              QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = '%1'").arg(table))
+            .toLongLong();
+    QFile file(path);
+    if (page < 2 || !file.open(QIODevice::ReadWrite) || !file.seek((page - 1) * pageSize) ||
+        file.write(bytes) != bytes.size()) {
+        qFatal("cannot damage %s", qPrintable(path));
+    }
+}
+
 QString DatabaseFiles::storeName(const QString &path)
 {
     return value(path, QStringLiteral("SELECT name FROM restaurant")).toString();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QVariant>
 
@@ -14,6 +15,10 @@ void makeLogOnly(const QString &path);
 /// A SQLite file of another program.
 void makeForeign(const QString &path);
 void makeText(const QString &path);
+/// A store with a page of its orders zeroed.
+void makeDamaged(const QString &path);
+/// Writes the bytes over the first page of a table or index, or over its beginning.
+void damage(const QString &path, const QString &table, const QByteArray &bytes);
 
 /// The first column of the first row, on a connection of its own.
 [[nodiscard]] QVariant value(const QString &path, const QString &sql);

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "core/SettingsStore.h"
+
+#include "core/Durable.h"
+#include "core/platform/FileSystem.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace {
+QString storePath()
+{
+    const QFileInfo file(QSettings().fileName());
+    return file.isSymLink() ? file.canonicalFilePath() : file.absoluteFilePath();
+}
+
+bool holds(const QSettings &settings, const SettingsStore::Changes &changes)
+{
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        const bool isWanted = !change.value().isNull();
+        if (settings.contains(change.key()) != isWanted ||
+            settings.value(change.key()).toString() != change.value()) {
+            return false;
+        }
+    }
+    return settings.status() == QSettings::NoError;
+}
+
+bool write(const QString &draft, const SettingsStore::Changes &changes)
+{
+    QSettings settings(draft, QSettings::NativeFormat);
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        if (change.value().isNull()) {
+            settings.remove(change.key());
+        } else {
+            settings.setValue(change.key(), change.value());
+        }
+    }
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
+/// QSettings keeps what it wrote and looks at a file once more only where its size or time changed:
+/// a new time makes it read this draft, and later the store, anew.
+bool makeNewerThan(const QString &draft, const QString &store)
+{
+    QFile file(draft);
+    const QDateTime latest =
+        qMax(file.fileTime(QFileDevice::FileModificationTime), QFileInfo(store).lastModified());
+    return file.open(QIODevice::ReadWrite) &&
+           file.setFileTime(latest.addMSecs(1), QFileDevice::FileModificationTime);
+}
+
+/// The store as it shall be, checked and on the disk.
+bool prepare(const QString &draft, const QString &store, const SettingsStore::Changes &changes)
+{
+    const bool isBegun =
+        QFile::exists(store) ? Durable::copy(store, draft) : FileSystem::createPrivateFile(draft);
+    return isBegun && write(draft, changes) && makeNewerThan(draft, store) &&
+           holds(QSettings(draft, QSettings::NativeFormat), changes) && FileSystem::syncFile(draft);
+}
+
+SettingsStore::Changes current(const QStringList &keys)
+{
+    const QSettings settings;
+    SettingsStore::Changes values;
+    for (const QString &key : keys) {
+        values.insert(key, settings.contains(key) ? settings.value(key).toString() : QString());
+    }
+    return values;
+}
+
+/// The store's own file is left alone until another one holds all of it.
+bool replace(const QString &store, const SettingsStore::Changes &changes)
+{
+    // Never the same name twice: QSettings remembers what it failed to write under one.
+    static int count = 0;
+    const QString draft = QStringLiteral("%1.new%2").arg(store).arg(++count);
+    QFile::remove(draft);
+    if (!prepare(draft, store, changes) || !FileSystem::replaceBy(store, draft)) {
+        QFile::remove(draft);
+        return false;
+    }
+    return true;
+}
+} // namespace
+
+bool SettingsStore::store(const Changes &changes)
+{
+    const QString store = storePath();
+    const QString folder = QFileInfo(store).absolutePath();
+    const Changes before = current(changes.keys());
+    if (!Durable::makeFolder(folder) || !replace(store, changes)) {
+        return false;
+    }
+    if (!FileSystem::syncFolder(folder)) {
+        static_cast<void>(replace(store, before));
+        return false;
+    }
+    return true;
+}
