@@ -6,6 +6,7 @@
 #include "core/DatabaseManager.h"
 #include "core/LocalPath.h"
 #include "core/Logging.h"
+#include "services/database/StoredPaths.h"
 #include "services/SettingsKeys.h"
 
 #include <QFile>
@@ -49,7 +50,12 @@ QString AppService::databasePath() const
 
 void AppService::setDatabasePath(const QString &path)
 {
-    QSettings().setValue(m_pathKey, path);
+    static_cast<void>(storeDatabasePath(path));
+}
+
+bool AppService::storeDatabasePath(const QString &path)
+{
+    return StoredPaths::configure(path);
 }
 
 bool AppService::hasDatabasePath() const

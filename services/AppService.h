@@ -34,8 +34,10 @@ public:
 
     /// Empty where none is saved.
     Q_INVOKABLE [[nodiscard]] QString databasePath() const;
-    /// The path is not checked, nor whether the settings store took it.
+    /// The path is not checked, nor whether the settings store took it. A staged restore goes.
     Q_INVOKABLE void setDatabasePath(const QString &path);
+    /// The same, and false where the store did not take it for good; the old path then stays.
+    [[nodiscard]] bool storeDatabasePath(const QString &path);
     Q_INVOKABLE [[nodiscard]] bool hasDatabasePath() const;
 
     /// For the file dialogs of the screens: a URL becomes a local path, any other text is kept.

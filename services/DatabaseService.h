@@ -39,18 +39,6 @@ public:
     Q_INVOKABLE bool replaceDatabase(const QString &dbPath);
 
 private:
-    /// An existing file is never overwritten by a move.
-    [[nodiscard]] static bool isFreeTarget(const QString &source, const QString &target);
-    /// From the copy to the configured path; no copy that failed to open is left behind.
-    [[nodiscard]] bool switchTo(const QString &target, const QString &source);
-    [[nodiscard]] bool takesOver(const QString &target);
-    /// False where the settings store does not take the path; the old one is then set again.
-    [[nodiscard]] bool configure(const QString &target, const QString &source);
-    void removeMovedSource(const QString &source);
-    [[nodiscard]] bool foldForReplacement(const QString &dbPath);
-    void adoptReplacement(const QString &dbPath, const QString &backupPath);
-    void rollBackReplacement(const QString &dbPath, const QString &backupPath);
-
     AppService *m_app;
     DatabaseManager *m_databases;
 };

@@ -4,6 +4,7 @@
 
 #include "core/DatabaseManager.h"
 #include "core/DatabaseSeeder.h"
+#include "core/Durable.h"
 #include "core/Logging.h"
 #include "repositories/RegionalSettingsRepository.h"
 #include "services/AppService.h"
@@ -32,7 +33,11 @@ SetupService::SetupResult SetupService::initializeApp(const QString &dbPath)
     if (!buildDatabase(dbPath)) {
         return InitializationFailed;
     }
-    m_app->setDatabasePath(dbPath);
+    if (!m_app->storeDatabasePath(dbPath)) {
+        // The file stays, and can be opened once there is room to say where it is.
+        qCCritical(lcSetup) << "Failed to save the database path.";
+        return InitializationFailed;
+    }
     RegionalSettingsRepository regional(m_databases->connection());
     DatabaseSeeder::seedRegionalSettings(regional);
     qCInfo(lcApplication) << "App initialization completed successfully.";
@@ -59,6 +64,10 @@ bool SetupService::buildDatabase(const QString &dbPath)
     if (!DatabaseSeeder(m_databases->connection()).seedAll()) {
         // The half-seeded file stays, and its path is not saved.
         qCCritical(lcDatabase) << "Database seeding failed.";
+        return false;
+    }
+    if (!Durable::sync(dbPath)) {
+        qCCritical(lcDatabase) << "Failed to write the database to the disk.";
         return false;
     }
     return true;

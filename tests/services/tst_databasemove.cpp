@@ -7,9 +7,9 @@
 #include "support/DatabaseFiles.h"
 #include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
+#include "support/FullSettingsDisk.h"
 #include "support/LogHook.h"
 #include "support/UnprivilegedUser.h"
-#include "support/UnwritableSettings.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -42,6 +42,7 @@ private slots:
     void aCopyThatCannotBeOpenedGoesAgain();
     void aCopyThatCannotBeMigratedGoesAgain();
     void aPathThatCannotBeSavedEndsBackOnTheOldFile();
+    void aDatabaseThatAnotherProgramHasOpenStays();
     void theLogOfAVanishedDatabaseIsNotPlayedIntoTheCopy();
     void repositoriesStayCutOffAfterAFailedMove();
     void anOldFileThatStaysDoesNotFailTheMove();
@@ -302,13 +303,35 @@ void tst_DatabaseMove::aCopyThatCannotBeMigratedGoesAgain()
 void tst_DatabaseMove::aPathThatCannotBeSavedEndsBackOnTheOldFile()
 {
     openStore(inFolder("here/Zelvan.db"));
-    const UnwritableSettings inTheWay("Database closed");
+    const FullSettingsDisk full("Database closed");
 
     expectLog(QtWarningMsg, "Failed to save the new database path.");
     QVERIFY(!m_service.moveDatabase(inFolder("there")));
 
+    QVERIFY(
+        FullSettingsDisk::stored().endsWith("path=" + inFolder("here/Zelvan.db").toUtf8() + '\n'));
+
     verifyStillOn(inFolder("here/Zelvan.db"));
     QVERIFY(QDir(inFolder("there/ZelvanPOS/data")).isEmpty());
+}
+
+void tst_DatabaseMove::aDatabaseThatAnotherProgramHasOpenStays()
+{
+    const QString source = inFolder("here/Zelvan.db");
+    openStore(source);
+    DatabaseFiles::run(source, "UPDATE restaurant SET address = 'changed'");
+    {
+        QSqlDatabase other = QSqlDatabase::addDatabase("QSQLITE", "other");
+        other.setDatabaseName(source);
+        QVERIFY(other.open() && other.exec("SELECT name FROM restaurant").next());
+
+        expectLog(QtWarningMsg, "Database is in use by another program.");
+        QVERIFY(!m_service.moveDatabase(inFolder("there")));
+    }
+    QSqlDatabase::removeDatabase("other");
+
+    verifyStillOn(source);
+    QVERIFY(!QFile::exists(inFolder("there/ZelvanPOS/data/Zelvan.db")));
 }
 
 void tst_DatabaseMove::theLogOfAVanishedDatabaseIsNotPlayedIntoTheCopy()

@@ -6,6 +6,7 @@
 #include "support/DatabaseFiles.h"
 #include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
+#include "support/FullSettingsDisk.h"
 #include "support/LogHook.h"
 
 #include <QDir>
@@ -38,6 +39,7 @@ private slots:
     void aPartialReplacementThatStaysKeepsTheOldDatabaseBesideIt();
     void anOldDatabaseThatCannotBePutBackIsKeptBeside();
     void aBackupThatStaysDoesNotFailTheReplacement();
+    void aPathThatCannotBeSavedIsRolledBack();
 
 private:
     QString m_path;
@@ -319,6 +321,24 @@ void tst_DatabaseReplace::aBackupThatStaysDoesNotFailTheReplacement()
     QCOMPARE(m_app.databasePath(), m_path);
     QCOMPARE(DatabaseManager::connection().databaseName(), m_path);
     QVERIFY(QFile::exists(m_backup));
+}
+
+void tst_DatabaseReplace::aPathThatCannotBeSavedIsRolledBack()
+{
+    DatabaseFiles::makeStore(m_path, "old");
+
+    expectLog(QtCriticalMsg, "Failed to save the database path.");
+    expectLog(QtCriticalMsg, "Failed to initialize replacement database.");
+    expectLog(QtWarningMsg, "Restoring original database from backup.");
+    expectLog(QtInfoMsg, "Database replacement rolled back successfully.");
+    {
+        const FullSettingsDisk full;
+        QVERIFY(!m_service.replaceDatabase(m_path));
+    }
+
+    QCOMPARE(DatabaseFiles::storeName(m_path), QStringLiteral("old"));
+    QVERIFY(!QFile::exists(m_backup));
+    QVERIFY(!m_app.hasDatabasePath());
 }
 
 ZELVAN_TEST(tst_DatabaseReplace)

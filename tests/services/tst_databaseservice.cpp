@@ -7,6 +7,8 @@
 #include "support/DatabaseFiles.h"
 #include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
+#include "support/FullSettingsDisk.h"
+#include "support/LogHook.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -30,16 +32,20 @@ private slots:
     void aBackupFailsWhereItsFolderCannotBeMade();
     void aBackupNeedsAnOpenDatabase();
     void aBackupNeedsACheckpoint();
+    void whatAnEarlierBackupLeftUnfinishedGoes();
+    void anUnfinishedBackupHasNoBackupsName();
     void aBackupCutShortByAFullDiskLeavesNothing_data();
     void aBackupCutShortByAFullDiskLeavesNothing();
 
     void aRestoreIsOnlyStaged();
     void aSecondRestoreKeepsTheLastPath();
+    void aRestoreThatCannotBeStagedFails();
     void anUnfitRestoreFileIsRefusedAtOnce_data();
     void anUnfitRestoreFileIsRefusedAtOnce();
 
     void anOpenedDatabaseBecomesTheConfiguredOne();
     void aRestoreThatFailedLeavesTheDatabaseOpenedInsteadAlone();
+    void aPathThatCannotBeSavedFailsTheOpening();
     void anUnfitDatabaseIsNotOpened_data();
     void anUnfitDatabaseIsNotOpened();
 
@@ -186,6 +192,37 @@ void tst_DatabaseService::aBackupNeedsACheckpoint()
     QVERIFY(DatabaseManager::rollbackTransaction());
 }
 
+void tst_DatabaseService::whatAnEarlierBackupLeftUnfinishedGoes()
+{
+    openStore(inFolder("Zelvan.db"));
+    QDir().mkpath(inFolder("backups"));
+    DatabaseFiles::makeText(inFolder("backups/unfinished.part"));
+    DatabaseFiles::makeText(inFolder("backups/unfinished.part-journal"));
+
+    QVERIFY(m_service.backupDatabase());
+
+    QCOMPARE(filesIn(inFolder("backups")).size(), 1);
+    QVERIFY(filesIn(inFolder("backups")).constFirst().startsWith("backup_"));
+}
+
+void tst_DatabaseService::anUnfinishedBackupHasNoBackupsName()
+{
+    openStore(inFolder("Zelvan.db"));
+    QStringList names;
+    const LogHook onFailure("Backup failed:",
+                            [this, &names] { names = filesIn(inFolder("backups")); });
+
+    expectLog(QtWarningMsg, "Backup failed:");
+    {
+        const FileSizeLimit fullDisk(100'000);
+        QVERIFY(!m_service.backupDatabase());
+    }
+
+    QVERIFY(!names.isEmpty());
+    QVERIFY2(names.filter("backup_").isEmpty() && names.filter(".db").isEmpty(),
+             qPrintable(names.join(' ')));
+}
+
 void tst_DatabaseService::aBackupCutShortByAFullDiskLeavesNothing_data()
 {
     QTest::addColumn<int>("bytes");
@@ -239,6 +276,21 @@ void tst_DatabaseService::aSecondRestoreKeepsTheLastPath()
     QCOMPARE(QSettings().value(SettingsKeys::pendingRestore).toString(), inFolder("two.db"));
 }
 
+void tst_DatabaseService::aRestoreThatCannotBeStagedFails()
+{
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    m_app.setDatabasePath(inFolder("Zelvan.db"));
+
+    expectLog(QtWarningMsg, "Failed to save the path of the database to restore.");
+    {
+        const FullSettingsDisk full;
+        QVERIFY(!m_service.restoreDatabase(inFolder("old.db")));
+        QVERIFY(FullSettingsDisk::stored().endsWith(inFolder("Zelvan.db").toUtf8() + '\n'));
+    }
+
+    QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+}
+
 void tst_DatabaseService::anUnfitRestoreFileIsRefusedAtOnce_data()
 {
     QTest::addColumn<QString>("name");
@@ -257,6 +309,9 @@ void tst_DatabaseService::anUnfitRestoreFileIsRefusedAtOnce_data()
     QTest::newRow("a text") << "text.db"
                             << "Database is not a Zelvan Database"
                             << "Failed to check database identity:";
+    QTest::newRow("damaged") << "damaged.db"
+                             << "Database is not a Zelvan Database"
+                             << "Failed to check database structure:";
 }
 
 void tst_DatabaseService::anUnfitRestoreFileIsRefusedAtOnce()
@@ -299,6 +354,21 @@ void tst_DatabaseService::aRestoreThatFailedLeavesTheDatabaseOpenedInsteadAlone(
     QCOMPARE(DatabaseFiles::storeName(inFolder("other.db")), QStringLiteral("other"));
 }
 
+void tst_DatabaseService::aPathThatCannotBeSavedFailsTheOpening()
+{
+    DatabaseFiles::makeStore(inFolder("a database of a longer name.db"), "other");
+    m_app.setDatabasePath(inFolder("Zelvan.db"));
+
+    expectLog(QtWarningMsg, "Failed to save the database path.");
+    {
+        const FullSettingsDisk full;
+        QVERIFY(!m_service.openDatabase(inFolder("a database of a longer name.db")));
+        QVERIFY(FullSettingsDisk::stored().endsWith(inFolder("Zelvan.db").toUtf8() + '\n'));
+    }
+
+    QCOMPARE(m_app.databasePath(), inFolder("Zelvan.db"));
+}
+
 void tst_DatabaseService::anUnfitDatabaseIsNotOpened_data()
 {
     QTest::addColumn<QString>("name");
@@ -323,6 +393,9 @@ void tst_DatabaseService::anUnfitDatabaseIsNotOpened_data()
     QTest::newRow("a text") << "text.db"
                             << "Database is not a Zelvan database."
                             << "Failed to check database identity:";
+    QTest::newRow("damaged") << "damaged.db"
+                             << "Database is not a Zelvan database."
+                             << "Failed to check database structure:";
 }
 
 void tst_DatabaseService::anUnfitDatabaseIsNotOpened()

@@ -1,15 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/DatabaseManager.h"
+#include "services/AppService.h"
 #include "services/DatabaseService.h"
 #include "services/SettingsKeys.h"
+#include "services/SetupService.h"
 #include "support/DatabaseFiles.h"
 #include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
+#include "support/FullSettingsDisk.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
+
+#include <functional>
 
 /// What the start of the program does with a staged backup.
 class tst_PendingRestore : public DatabaseFileTest
@@ -29,6 +35,9 @@ private slots:
     void aFailedCopyIsTriedAgainAtTheNextStart();
     void aCopyThatFailsOnAFullDiskLeavesTheStagedFileWhole();
     void theLiveFileItselfIsNotLost();
+    void aRestoreThatCannotBeForgottenIsNotWorkedOn();
+    void aRestoreStagedBeforeIsDropped_data();
+    void aRestoreStagedBeforeIsDropped();
 
 private:
     static void stage(const QString &staged, const QString &configured);
@@ -123,6 +132,9 @@ void tst_PendingRestore::anUnfitStagedFileIsForgotten_data()
     QTest::newRow("another program's") << "foreign.db"
                                        << "Database is not a Zelvan Database"
                                        << "Failed to check database identity:";
+    QTest::newRow("damaged") << "damaged.db"
+                             << "Database is not a Zelvan Database"
+                             << "Failed to check database structure:";
 }
 
 void tst_PendingRestore::anUnfitStagedFileIsForgotten()
@@ -162,6 +174,7 @@ void tst_PendingRestore::aFailedCopyIsTriedAgainAtTheNextStart()
     QDir().mkpath(inFolder("Zelvan.db/in the way"));
     stage(inFolder("old.db"), inFolder("Zelvan.db"));
 
+    expectLog(QtCriticalMsg, "Failed to copy the database to restore:");
     QVERIFY(!DatabaseService::applyPendingRestore());
 
     QCOMPARE(QSettings().value(SettingsKeys::pendingRestore).toString(), inFolder("old.db"));
@@ -178,6 +191,9 @@ void tst_PendingRestore::aCopyThatFailsOnAFullDiskLeavesTheStagedFileWhole()
     DatabaseFiles::makeStore(inFolder("old.db"), "old");
     stage(inFolder("old.db"), inFolder("Zelvan.db"));
 
+    expectLog(QtCriticalMsg,
+              QStringLiteral("Failed to copy the database to restore: \"%1\" \"File too large\"")
+                  .arg(inFolder("old.db")));
     {
         const FileSizeLimit fullDisk(limit);
         QVERIFY(!DatabaseService::applyPendingRestore());
@@ -200,6 +216,71 @@ void tst_PendingRestore::theLiveFileItselfIsNotLost()
 
     QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("live"));
     QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+}
+
+void tst_PendingRestore::aRestoreThatCannotBeForgottenIsNotWorkedOn()
+{
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    stage(inFolder("old.db"), inFolder("Zelvan.db"));
+
+    // The next start would copy it again, over what had been sold until then.
+    expectLog(QtCriticalMsg, "Failed to forget the database to restore:");
+    {
+        const FullSettingsDisk full;
+        QVERIFY(!DatabaseService::applyPendingRestore());
+    }
+
+    QVERIFY(!QFile::exists(inFolder("Zelvan.db")));
+    QVERIFY(DatabaseService::applyPendingRestore());
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("old"));
+}
+
+void tst_PendingRestore::aRestoreStagedBeforeIsDropped_data()
+{
+    using Change = std::function<bool(AppService &, const QString &path)>;
+    QTest::addColumn<Change>("change");
+
+    QTest::newRow("a new store is made") << Change([](AppService &app, const QString &path) {
+        DatabaseManager databases;
+        QFile::remove(path);
+        return SetupService(&app, &databases).initializeApp(path) == SetupService::Success;
+    });
+    QTest::newRow("the store is replaced") << Change([](AppService &app, const QString &path) {
+        DatabaseManager databases;
+        return DatabaseService(&app, &databases).replaceDatabase(path);
+    });
+    QTest::newRow("the store is moved") << Change([](AppService &app, const QString &path) {
+        DatabaseManager databases;
+        return DatabaseManager::initialize(path) &&
+               DatabaseService(&app, &databases).moveDatabase(QFileInfo(path).path());
+    });
+    QTest::newRow("another is opened") << Change([](AppService &app, const QString &path) {
+        DatabaseManager databases;
+        return DatabaseService(&app, &databases).openDatabase(path);
+    });
+    QTest::newRow("the path is set") << Change([](AppService &app, const QString &path) {
+        app.setDatabasePath(path);
+        return true;
+    });
+}
+
+void tst_PendingRestore::aRestoreStagedBeforeIsDropped()
+{
+    using Change = std::function<bool(AppService &, const QString &path)>;
+    QFETCH(Change, change);
+    AppService app;
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    DatabaseFiles::makeStore(inFolder("staged.db"), "staged");
+    stage(inFolder("staged.db"), inFolder("Zelvan.db"));
+
+    QVERIFY(change(app, inFolder("Zelvan.db")));
+    DatabaseManager::closeDatabase();
+
+    QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+    QVERIFY(DatabaseService::applyPendingRestore());
+    QVERIFY(QFile::exists(app.databasePath()));
+    QVERIFY(DatabaseFiles::value(app.databasePath(), "SELECT name FROM restaurant") != "staged");
 }
 
 ZELVAN_TEST(tst_PendingRestore)

@@ -6,6 +6,7 @@
 #include "support/DatabaseFiles.h"
 #include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
+#include "support/FullSettingsDisk.h"
 #include "support/LogHook.h"
 
 #include <QDate>
@@ -29,6 +30,7 @@ private slots:
     void aPathThatCannotBeOpenedFails();
     void aHalfBuiltFileIsDeleted();
     void aHalfSeededFileStaysAndIsNotConfigured();
+    void aPathThatCannotBeSavedFails();
 
 private:
     AppService m_app;
@@ -186,6 +188,21 @@ void tst_SetupService::aHalfSeededFileStaysAndIsNotConfigured()
     QVERIFY(DatabaseManager::isZelvanDatabase(path));
     QCOMPARE(DatabaseFiles::value(path, "SELECT COUNT(*) FROM tax_settings"), QVariant(0));
     QVERIFY(!m_app.hasDatabasePath());
+}
+
+void tst_SetupService::aPathThatCannotBeSavedFails()
+{
+    const QString path = inFolder("Zelvan.db");
+
+    expectLog(QtCriticalMsg, "Failed to save the database path.");
+    {
+        const FullSettingsDisk full;
+        QCOMPARE(m_setup.initializeApp(path), SetupService::InitializationFailed);
+        QVERIFY(!FullSettingsDisk::stored().contains("database"));
+    }
+
+    QVERIFY(!m_app.hasDatabasePath());
+    QVERIFY(DatabaseManager::isZelvanDatabase(path));
 }
 
 ZELVAN_TEST(tst_SetupService)

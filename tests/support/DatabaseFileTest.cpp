@@ -37,6 +37,7 @@ void DatabaseFileTest::makeUnfitFiles() const
     QDir().mkpath(inFolder(QStringLiteral("folder")));
     DatabaseFiles::makeForeign(inFolder(QStringLiteral("foreign.db")));
     DatabaseFiles::makeText(inFolder(QStringLiteral("text.db")));
+    DatabaseFiles::makeDamaged(inFolder(QStringLiteral("damaged.db")));
 }
 
 void DatabaseFileTest::expectRefusal(const QString &connectionLine, const QString &ownLine)

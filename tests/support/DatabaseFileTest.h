@@ -25,7 +25,8 @@ protected:
     /// The column "name" with names of folders, plain and awkward ones.
     static void addFolderNames();
 
-    /// Puts what is no store's database into the folder: "folder", "foreign.db" and "text.db".
+    /// Puts what is no store's database into the folder: "folder", "foreign.db", "text.db",
+    /// and "damaged.db", a store with a page of its orders zeroed.
     void makeUnfitFiles() const;
     /// Announces the warnings of a refused file: its connection's, unless empty, then the
     /// service's.

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "support/DiskLog.h"
+
+#include <QFile>
+#include <QMutex>
+#include <QMutexLocker>
+
+#include <cerrno>
+#include <dlfcn.h>
+
+namespace {
+struct Record
+{
+    QMutex mutex;
+    bool isListening = false;
+    QStringList calls;
+    QString failingPath;
+};
+
+Record &record()
+{
+    static auto *instance = new Record;
+    return *instance;
+}
+
+void note(const char *call, const QString &path)
+{
+    const QMutexLocker locker(&record().mutex);
+    if (record().isListening) {
+        record().calls.append(QLatin1String(call) + QLatin1Char(' ') + path);
+    }
+}
+
+QString pathOf(int descriptor)
+{
+    return QFile::symLinkTarget(QStringLiteral("/proc/self/fd/%1").arg(descriptor));
+}
+
+bool isFailing(const QString &path)
+{
+    const QMutexLocker locker(&record().mutex);
+    return record().isListening && record().failingPath == path;
+}
+
+template<typename Function>
+Function *next(const char *name)
+{
+    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+
+int syncThrough(const char *name, int descriptor)
+{
+    const QString path = pathOf(descriptor);
+    if (isFailing(path)) {
+        errno = EIO;
+        return -1;
+    }
+    const int result = next<int(int)>(name)(descriptor);
+    note("sync", path);
+    return result;
+}
+} // namespace
+
+extern "C" {
+int fsync(int descriptor)
+{
+    return syncThrough("fsync", descriptor);
+}
+
+int fdatasync(int descriptor)
+{
+    return syncThrough("fdatasync", descriptor);
+}
+
+int unlink(const char *path) noexcept
+{
+    note("remove", QFile::decodeName(path));
+    return next<int(const char *)>("unlink")(path);
+}
+
+int rename(const char *from, const char *to) noexcept
+{
+    note("rename", QFile::decodeName(from));
+    return next<int(const char *, const char *)>("rename")(from, to);
+}
+}
+
+DiskLog::DiskLog()
+{
+    const QMutexLocker locker(&record().mutex);
+    record().isListening = true;
+    record().calls.clear();
+    record().failingPath.clear();
+}
+
+DiskLog::~DiskLog()
+{
+    const QMutexLocker locker(&record().mutex);
+    record().isListening = false;
+}
+
+QStringList DiskLog::calls() const
+{
+    const QMutexLocker locker(&record().mutex);
+    return record().calls;
+}
+
+bool DiskLog::hasInOrder(const QStringList &wanted) const
+{
+    const QStringList all = calls();
+    qsizetype at = -1;
+    for (const QString &call : wanted) {
+        at = all.indexOf(call, at + 1);
+        if (at < 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void DiskLog::failSyncOf(const QString &path)
+{
+    const QMutexLocker locker(&record().mutex);
+    record().failingPath = path;
+}

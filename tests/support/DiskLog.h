@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// Listens at the border to the system, in a test program that is linked with it: what Qt, SQLite
+/// and the program itself bring to the disk, take off it and rename. One at a time.
+class DiskLog final
+{
+public:
+    DiskLog();
+    ~DiskLog();
+    Q_DISABLE_COPY_MOVE(DiskLog)
+
+    /// One entry a call, in order: "sync PATH", "remove PATH", "rename PATH".
+    [[nodiscard]] QStringList calls() const;
+    /// Whether all of these came one after the other, whatever came in between.
+    [[nodiscard]] bool hasInOrder(const QStringList &wanted) const;
+
+    /// From now on syncing the path fails, as on a disk that breaks.
+    static void failSyncOf(const QString &path);
+};
