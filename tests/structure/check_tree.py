@@ -198,9 +198,17 @@ def explicit_sources(_):
                 yield f"{path}: stands in no CMakeLists.txt"
 
 
+def module_scripts(build):
+    """The QML module lists no script: Qt 6.8 lets no document see such a module twice, as ours do."""
+    listed = pathlib.Path(build, "qml/modules/zelvan/qmldir").read_text(encoding="utf-8").splitlines()
+    if "module zelvan" not in listed:
+        yield "qmldir: is none of the module"
+    yield from (f"qmldir: {line}" for line in listed if line.endswith(".js"))
+
+
 RULES = {rule.__name__: rule for rule in (
     sql_wall, include_direction, licence_lines, own_words, no_registry_hosts, migration_scripts,
-    documented_paths, documented_commands, registered_tests, explicit_sources)}
+    documented_paths, documented_commands, registered_tests, explicit_sources, module_scripts)}
 
 
 def main(arguments):
