@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/PasswordHasher.h"
 
+#include "core/Logging.h"
+
+#include <QRegularExpression>
+
 #include <sodium.h>
 
 #include <array>
@@ -11,6 +15,31 @@ namespace {
 // libsodium's interactive limits, fixed here so that a new libsodium does not change them unseen.
 constexpr unsigned long long operationsLimit = 2;
 constexpr size_t memoryLimit = 67108864;
+
+/// How much dearer than one of our own a stored hash may be: room for a later program's limits,
+/// and still an answer within the second or two that people wait.
+constexpr qulonglong margin = 4;
+constexpr size_t bytesPerKibibyte = 1024;
+
+/// Whether a check would take memory or time that this program never asks for. The hash text says
+/// how much, and whoever writes to the database could freeze every log-in with it. A text that is
+/// no hash costs nothing: libsodium refuses it.
+bool asksForTooMuch(const QString &hash)
+{
+    static const QRegularExpression parameters(
+        QStringLiteral(R"(^\$argon2[a-z]*\$v=\d+\$m=(\d+),t=(\d+),)"));
+    const QRegularExpressionMatch match = parameters.match(hash);
+    if (!match.hasMatch()) {
+        return false;
+    }
+    bool memoryIsNumber = false;
+    bool operationsIsNumber = false;
+    const qulonglong kibibytes = match.captured(1).toULongLong(&memoryIsNumber);
+    const qulonglong operations = match.captured(2).toULongLong(&operationsIsNumber);
+    return !memoryIsNumber || !operationsIsNumber ||
+           kibibytes > margin * memoryLimit / bytesPerKibibyte ||
+           operations > margin * operationsLimit;
+}
 } // namespace
 
 QString hashPassword(const QString &password)
@@ -33,6 +62,10 @@ QString hashPassword(const QString &password)
 bool verifyPassword(const QString &password, const QString &hash)
 {
     if (sodium_init() < 0) {
+        return false;
+    }
+    if (asksForTooMuch(hash)) {
+        qCWarning(lcAuth) << "Password hash refused: it asks for too much memory or time.";
         return false;
     }
     const QByteArray utf8 = password.toUtf8();

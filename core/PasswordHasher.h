@@ -9,5 +9,6 @@
 /// thread-safe.
 [[nodiscard]] QString hashPassword(const QString &password);
 
-/// Whether the password is the one behind the hash text.
+/// Whether the password is the one behind the hash text. A hash far dearer than our own is taken
+/// for one of another password, with a line in the log.
 [[nodiscard]] bool verifyPassword(const QString &password, const QString &hash);
