@@ -10,9 +10,11 @@
 #include "core/Patience.h"
 #include "core/platform/FileSystem.h"
 #include "core/ShortLivedConnection.h"
+#include "core/TransactionWatch.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
 
@@ -56,6 +58,12 @@ void makePrivately(const QString &path)
     if (!QFile::exists(path)) {
         FileSystem::createPrivateFile(path);
     }
+}
+
+/// One that does nothing where the connection does not exist.
+QSqlDriver *mainDriver()
+{
+    return QSqlDatabase::database(DatabaseManager::mainConnectionName, false).driver();
 }
 
 struct TransactionWords
@@ -166,26 +174,58 @@ bool DatabaseManager::checkpointWal()
 
 bool DatabaseManager::beginTransaction()
 {
-    return transactionStep({"Cannot begin transaction: database connection does not exist.",
-                            "Cannot begin transaction: database is not open.",
-                            "Failed to begin transaction:"},
-                           &QSqlDatabase::transaction);
+    const bool begun = transactionStep(
+        {"Cannot begin transaction: database connection does not exist.",
+         "Cannot begin transaction: database is not open.", "Failed to begin transaction:"},
+        &QSqlDatabase::transaction);
+    if (begun) {
+        TransactionWatch::begin(mainDriver());
+    }
+    return begun;
+}
+
+bool DatabaseManager::transactionStands()
+{
+    return TransactionWatch::stands(mainDriver());
 }
 
 bool DatabaseManager::commitTransaction()
 {
-    return transactionStep({"Cannot commit: database connection does not exist.",
-                            "Cannot commit: database is not open.",
-                            "Failed to commit transaction:"},
-                           &QSqlDatabase::commit);
+    if (!transactionStands()) {
+        qCWarning(lcDatabase) << "Failed to commit transaction:"
+                              << "SQLite ended it when a statement failed";
+        abandonTransaction();
+        return false;
+    }
+    const bool committed =
+        transactionStep({"Cannot commit: database connection does not exist.",
+                         "Cannot commit: database is not open.", "Failed to commit transaction:"},
+                        &QSqlDatabase::commit);
+    if (!committed) {
+        // Left open it would refuse the next one and take all that follows with it at the end.
+        abandonTransaction();
+    }
+    TransactionWatch::end(mainDriver());
+    return committed;
 }
 
 bool DatabaseManager::rollbackTransaction()
 {
-    return transactionStep({"Cannot rollback: database connection does not exist.",
-                            "Cannot rollback: database is not open.",
-                            "Failed to rollback transaction:"},
-                           &QSqlDatabase::rollback);
+    const bool rolledBack = transactionStep({"Cannot rollback: database connection does not exist.",
+                                             "Cannot rollback: database is not open.",
+                                             "Failed to rollback transaction:"},
+                                            &QSqlDatabase::rollback);
+    TransactionWatch::end(mainDriver());
+    return rolledBack;
+}
+
+void DatabaseManager::abandonTransaction()
+{
+    QSqlDatabase database = QSqlDatabase::database(mainConnectionName, false);
+    if (database.isOpen()) {
+        database.rollback();
+    }
+    TransactionWatch::end(database.driver());
 }
 
 void DatabaseManager::closeDatabase()

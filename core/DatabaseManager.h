@@ -28,8 +28,14 @@ public:
     static bool checkpointWal();
 
     static bool beginTransaction();
+    /// False when SQLite has ended, on a failing or full disk, what `beginTransaction` began.
+    /// Nothing written since then reaches the file, and no commit succeeds. Costs nothing to ask.
+    [[nodiscard]] static bool transactionStands();
+    /// Whether it succeeds or not, no transaction is left open.
     static bool commitTransaction();
     static bool rollbackTransaction();
+    /// Rolls back whatever is open, without a word; harmless when nothing is.
+    static void abandonTransaction();
 
     /// Closes and unregisters `main_connection`; harmless when there is none.
     static void closeDatabase();

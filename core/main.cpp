@@ -27,12 +27,15 @@ int main(int argc, char *argv[])
     QQuickStyle::setStyle(QStringLiteral("Fusion"));
 
     // Before any connection exists, so that the file may be overwritten. The start goes on on
-    // whatever stands there afterwards, hence the ignored results here and below.
+    // whatever stands there afterwards, hence the ignored result.
     DatabaseService::applyPendingRestore();
     AppService app;
     DatabaseManager database;
     if (app.determineState() > AppService::NotZelvanDBNeedsSetup) {
-        DatabaseManager::initialize(app.databasePath());
+        if (!DatabaseManager::initialize(app.databasePath())) {
+            // A run of migrations that could not be committed would swallow all this run writes.
+            DatabaseManager::abandonTransaction();
+        }
     }
 
     SystemTheme systemTheme;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/Statement.h"
 
+#include "core/TransactionWatch.h"
 #include "repositories/PreparedStatements.h"
 
 #include <QDebug>
@@ -75,8 +76,7 @@ bool Statement::run()
     if (m_prepared && m_query.exec()) {
         return true;
     }
-    report();
-    m_waiting = nullptr;
+    fail();
     return false;
 }
 
@@ -119,9 +119,15 @@ bool Statement::brokeOff()
     if (!m_query.lastError().isValid()) {
         return false;
     }
+    fail();
+    return true;
+}
+
+void Statement::fail()
+{
     report();
     m_waiting = nullptr;
-    return true;
+    TransactionWatch::statementFailed(m_query.driver());
 }
 
 void Statement::report() const

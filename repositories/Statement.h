@@ -110,6 +110,7 @@ private:
     void prepare(const QString &sql);
     /// Whether the rows ended in an error, which is logged then.
     [[nodiscard]] bool brokeOff();
+    void fail();
     void report() const;
 
     /// Not a copy: the text outlives the statement.

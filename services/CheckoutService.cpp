@@ -90,7 +90,8 @@ bool CheckoutService::completeCheckout(int orderSessionId, const QString &member
         qCWarning(lcCheckout) << "Failed to begin transaction";
         return false;
     }
-    if (!recalculateTotals(orderSessionId)) {
+    m_announced.reset();
+    if (!stillStands(recalculateTotals(orderSessionId))) {
         return abandon("Failed to recalculate totals");
     }
     std::optional<OrderSession> session = m_sessions->getSessionById(orderSessionId);
@@ -105,13 +106,13 @@ bool CheckoutService::completeCheckout(int orderSessionId, const QString &member
         m_database->rollbackTransaction();
         return true;
     }
-    if (!applyMembership(*session, memberPhone, pointsToRedeem)) {
+    if (!stillStands(applyMembership(*session, memberPhone, pointsToRedeem))) {
         return abandon("Failed applying membership");
     }
-    if (!markOrdersServed(orderSessionId)) {
+    if (!stillStands(markOrdersServed(orderSessionId))) {
         return abandon("Failed marking orders served");
     }
-    if (!assignReceiptNumber(*session)) {
+    if (!stillStands(assignReceiptNumber(*session))) {
         return abandon("Failed assigning receipt number");
     }
     if (!m_sessions->update(*session)) {
@@ -120,14 +121,15 @@ bool CheckoutService::completeCheckout(int orderSessionId, const QString &member
     if (!m_sessions->markPaid(orderSessionId)) {
         return abandon("Failed marking session paid");
     }
-    if (!freeTable(*session)) {
+    if (!stillStands(freeTable(*session))) {
         return abandon("Failed freeing table");
     }
-    if (!createReceiptSnapshot(*session)) {
+    if (!stillStands(createReceiptSnapshot(*session))) {
         return abandon("Failed creating receipt snapshot");
     }
     if (!m_database->commitTransaction()) {
         qCWarning(lcCheckout) << "Commit failed";
+        takeBackAnnouncement();
         return false;
     }
     return true;
@@ -241,7 +243,27 @@ bool CheckoutService::rollbackCheckout()
 {
     qCWarning(lcCheckout) << "Rolling back transaction";
     m_database->rollbackTransaction();
+    takeBackAnnouncement();
     return false;
+}
+
+/// Steps that do not look at what they wrote go on after any failure, but not on their own.
+bool CheckoutService::stillStands(bool done) const
+{
+    return done && m_database->transactionStands();
+}
+
+/// The table was told to be free, and the floor was read, while the payment was under way.
+void CheckoutService::takeBackAnnouncement()
+{
+    if (!m_announced) {
+        return;
+    }
+    m_tableService->announceStoredStatus(m_announced->tableId);
+    if (m_announced->reservationChanged) {
+        emit m_reservationService->reservationChanged(m_announced->tableId);
+    }
+    m_announced.reset();
 }
 
 bool CheckoutService::abandon(const char *reason)
@@ -293,13 +315,15 @@ bool CheckoutService::freeTable(const OrderSession &session)
     if (!session.table_id) {
         return true;
     }
+    m_announced = Announcement{*session.table_id, false};
     m_tableService->setTableStatus(*session.table_id, QStringLiteral("available"));
     QVariantMap reservation = m_reservationService->getSeatedReservationByTable(*session.table_id);
     if (reservation.isEmpty()) {
         return true;
     }
     reservation[keyStatus] = QStringLiteral("completed");
-    return m_reservationService->updateReservation(reservation);
+    m_announced->reservationChanged = m_reservationService->updateReservation(reservation);
+    return m_announced->reservationChanged;
 }
 
 bool CheckoutService::createReceiptSnapshot(const OrderSession &session)

@@ -84,9 +84,18 @@ public:
     bool recalculateTotals(int orderSessionId);
 
 private:
+    /// What listeners heard of a payment before it was known to last.
+    struct Announcement
+    {
+        int tableId;
+        bool reservationChanged;
+    };
+
     /// Undoes the payment; always false, so that a failed step can end with it.
     [[nodiscard]] bool rollbackCheckout();
     [[nodiscard]] bool abandon(const char *reason);
+    [[nodiscard]] bool stillStands(bool done) const;
+    void takeBackAnnouncement();
     [[nodiscard]] bool applyMembership(OrderSession &session, const QString &memberPhone,
                                        int pointsToRedeem);
     [[nodiscard]] bool markOrdersServed(int orderSessionId);
@@ -116,4 +125,5 @@ private:
     ReservationService *m_reservationService;
     DatabaseManager *m_database;
     SnapshotAssembler m_snapshotAssembler;
+    std::optional<Announcement> m_announced;
 };

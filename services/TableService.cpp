@@ -83,3 +83,12 @@ bool TableService::setTableStatus(int tableId, const QString &status)
     emit tablesChanged();
     return true;
 }
+
+void TableService::announceStoredStatus(int tableId)
+{
+    m_tableModel->reload();
+    if (const std::optional<Table> table = m_tables->getTableById(tableId)) {
+        emit tableStatusChanged(tableId, table->status);
+    }
+    emit tablesChanged();
+}

@@ -29,6 +29,9 @@ public:
     Q_INVOKABLE bool removeTable(int tableId);
     /// Stores any text and always answers true, also for a table that does not exist.
     Q_INVOKABLE bool setTableStatus(int tableId, const QString &status);
+    /// Tells what the store holds, after a change that was told and then undone. Says nothing of a
+    /// table that is not there.
+    void announceStoredStatus(int tableId);
 
 signals:
     void tablesChanged();

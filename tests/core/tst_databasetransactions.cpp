@@ -7,6 +7,7 @@
 #include "support/ZelvanTest.h"
 
 #include <QFile>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 
 namespace {
@@ -21,6 +22,32 @@ public:
     ~ClosedConnection() { QSqlDatabase::removeDatabase(DatabaseManager::mainConnectionName); }
     Q_DISABLE_COPY_MOVE(ClosedConnection)
 };
+
+/// Another program in the middle of reading the file.
+class ForeignReader final
+{
+public:
+    explicit ForeignReader(const QString &path)
+    {
+        m_handle = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name);
+        m_handle.setDatabaseName(path);
+        m_handle.open();
+        QSqlQuery query(m_handle);
+        query.exec(QStringLiteral("BEGIN"));
+        query.exec(QStringLiteral("SELECT COUNT(*) FROM users"));
+    }
+    ~ForeignReader()
+    {
+        m_handle.close();
+        m_handle = QSqlDatabase();
+        QSqlDatabase::removeDatabase(m_name);
+    }
+    Q_DISABLE_COPY_MOVE(ForeignReader)
+
+private:
+    QString m_name = QStringLiteral("foreign reader");
+    QSqlDatabase m_handle;
+};
 } // namespace
 
 /// Transactions, and the checkpoint that makes the one file whole.
@@ -33,6 +60,9 @@ private slots:
     void aCheckpointNeedsAnOpenConnection();
     void aCheckpointInsideATransactionFails();
     void transactionsCommitAndRollBack();
+    void aRefusedCommitLeavesNothingOpen();
+    void anotherReaderRefusesTheCommitOnce();
+    void abandoningEndsWhateverIsOpen();
     void transactionStepsTellWhatIsMissing_data();
     void transactionStepsTellWhatIsMissing();
 };
@@ -86,6 +116,59 @@ void tst_DatabaseTransactions::transactionsCommitAndRollBack()
     QVERIFY(DatabaseManager::rollbackTransaction());
 
     QCOMPARE(db.value(QStringLiteral("SELECT COUNT(*) FROM categories")).toInt(), 1);
+}
+
+void tst_DatabaseTransactions::aRefusedCommitLeavesNothingOpen()
+{
+    const TestDatabase db;
+    // A broken reference that SQLite looks at no sooner than at the commit.
+    db.run(QStringLiteral("CREATE TABLE late (id INTEGER REFERENCES tables(id) "
+                          "DEFERRABLE INITIALLY DEFERRED)"));
+    QVERIFY(DatabaseManager::beginTransaction());
+    db.run(QStringLiteral("INSERT INTO late (id) VALUES (99)"));
+
+    QCOMPARE(logOf([] { QVERIFY(!DatabaseManager::commitTransaction()); }),
+             QStringLiteral("warning [database] Failed to commit transaction: <error text>"));
+
+    QCOMPARE(db.value(QStringLiteral("SELECT COUNT(*) FROM late")).toInt(), 0);
+    QVERIFY(DatabaseManager::beginTransaction());
+    QVERIFY(DatabaseManager::commitTransaction());
+}
+
+void tst_DatabaseTransactions::anotherReaderRefusesTheCommitOnce()
+{
+    const TestDatabase db;
+    const QString insert = QStringLiteral("INSERT INTO categories (category) VALUES ('Soups')");
+    db.run(QStringLiteral("PRAGMA journal_mode = DELETE"));
+    db.run(QStringLiteral("PRAGMA busy_timeout = 10"));
+    {
+        const ForeignReader reader(db.path());
+        QVERIFY(DatabaseManager::beginTransaction());
+        db.run(insert);
+        QCOMPARE(logOf([] { QVERIFY(!DatabaseManager::commitTransaction()); }),
+                 QStringLiteral("warning [database] Failed to commit transaction: <error text>"));
+    }
+
+    QVERIFY(DatabaseManager::beginTransaction());
+    db.run(insert);
+    QVERIFY(DatabaseManager::commitTransaction());
+
+    QCOMPARE(DatabaseFiles::value(db.path(), QStringLiteral("SELECT COUNT(*) FROM categories")),
+             QVariant(1));
+}
+
+void tst_DatabaseTransactions::abandoningEndsWhateverIsOpen()
+{
+    DatabaseManager::abandonTransaction();
+    const TestDatabase db;
+    DatabaseManager::abandonTransaction();
+    QVERIFY(db.handle().transaction());
+    db.run(QStringLiteral("INSERT INTO categories (category) VALUES ('Soups')"));
+
+    QCOMPARE(logOf([] { DatabaseManager::abandonTransaction(); }), QString());
+
+    QCOMPARE(db.value(QStringLiteral("SELECT COUNT(*) FROM categories")).toInt(), 0);
+    QVERIFY(DatabaseManager::beginTransaction());
 }
 
 void tst_DatabaseTransactions::transactionStepsTellWhatIsMissing_data()

@@ -98,6 +98,7 @@ private slots:
     void aRecordTableThatCannotBeMadeFails();
     void aRecordTableOfAnotherShapeFails();
     void aRecordThatCannotBeWrittenUndoesTheRun();
+    void aRunWhoseTransactionWasLostLeavesNothing();
     void aFailingCommitIsNotRolledBack();
     void scriptsThatCannotBeFoundUndoTheRun();
     void theSourcesServeWhereTheResourcesAreMissing();
@@ -283,6 +284,22 @@ void tst_Migrations::aRecordThatCannotBeWrittenUndoesTheRun()
 
     QCOMPARE(log, QStringLiteral("critical [migration] Failed to record migration: <error text>"));
     QVERIFY(!EarlierFile::schema().contains(QStringLiteral("users")));
+}
+
+void tst_Migrations::aRunWhoseTransactionWasLostLeavesNothing()
+{
+    // SQLite ends the transaction itself, as on a failing disk, after some scripts have run.
+    const EarlierFile file(
+        {migrationTable, QStringLiteral("CREATE TRIGGER stop BEFORE INSERT ON applied_migrations "
+                                        "WHEN NEW.migration_name LIKE '%/003%' "
+                                        "BEGIN SELECT RAISE(ROLLBACK, 'disk I/O error'); END")});
+
+    const QString log = logOf([&] { QVERIFY(!DatabaseManager::initialize(file.path())); });
+
+    QCOMPARE(lastLineOf(log),
+             QStringLiteral("critical [migration] Failed to record migration: <error text>"));
+    QVERIFY(!EarlierFile::schema().contains(QStringLiteral("users")));
+    QVERIFY(DatabaseManager::beginTransaction());
 }
 
 void tst_Migrations::aFailingCommitIsNotRolledBack()

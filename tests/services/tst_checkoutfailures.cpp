@@ -3,6 +3,7 @@
 #include "services/CheckoutService.h"
 #include "support/DatabaseDump.h"
 #include "support/LogCapture.h"
+#include "support/ModelRows.h"
 #include "support/TestStore.h"
 #include "support/ZelvanTest.h"
 
@@ -31,8 +32,11 @@ private slots:
     void anUnknownSessionIsRefused();
     void aRevokedMemberFailsThePaymentUntilThePhoneIsEmptied();
     void anOverlappingReservationFailsThePayment();
-    void aFailedCommitIsNotRolledBackHere();
+    void aFailedCommitLeavesNoTransactionOpen();
     void aFailedUpdateOfTheTotalsIsNotLookedAt();
+    void theListsTellWhatIsStoredAfterAFailure_data();
+    void theListsTellWhatIsStoredAfterAFailure();
+    void aFailureBeforeTheTableTellsNobodyAnything();
 
 private:
     std::unique_ptr<TestStore> m_store;
@@ -169,11 +173,11 @@ void tst_CheckoutFailures::anOverlappingReservationFailsThePayment()
 
     QCOMPARE(log.lines(), QStringList({"warning [checkout] Failed freeing table", rollingBack}));
     QCOMPARE(dumpOf(m_store->database), before);
-    // The signal went out before anything was decided.
-    QCOMPARE(status, QList<QVariantList>({{m_table, "available"}}));
+    // The first signal went out before anything was decided.
+    QCOMPARE(status, QList<QVariantList>({{m_table, "available"}, {m_table, "occupied"}}));
 }
 
-void tst_CheckoutFailures::aFailedCommitIsNotRolledBackHere()
+void tst_CheckoutFailures::aFailedCommitLeavesNoTransactionOpen()
 {
     // A broken reference that SQLite looks at no sooner than at the commit.
     m_store->database.run("CREATE TABLE late (id INTEGER REFERENCES tables(id) "
@@ -188,9 +192,10 @@ void tst_CheckoutFailures::aFailedCommitIsNotRolledBackHere()
     QCOMPARE(log.lines().size(), 2);
     QVERIFY(log.lines().at(0).startsWith("warning [database] Failed to commit transaction:"));
     QCOMPARE(log.lines().at(1), QStringLiteral("warning [checkout] Commit failed"));
-    // Still begun, so it can still be rolled back.
-    QVERIFY(DatabaseManager::rollbackTransaction());
     QCOMPARE(dumpOf(m_store->database), before);
+    // The next one can begin, and what is written outside of any lasts.
+    QVERIFY(DatabaseManager::beginTransaction());
+    QVERIFY(DatabaseManager::rollbackTransaction());
 }
 
 void tst_CheckoutFailures::aFailedUpdateOfTheTotalsIsNotLookedAt()
@@ -202,6 +207,57 @@ void tst_CheckoutFailures::aFailedUpdateOfTheTotalsIsNotLookedAt()
 
     QCOMPARE(log.lines(),
              QStringList{"warning [database] Failed to update order session: <QSqlError>"});
+}
+
+void tst_CheckoutFailures::theListsTellWhatIsStoredAfterAFailure_data()
+{
+    QTest::addColumn<QString>("sql");
+
+    QTest::newRow("at the snapshot") << "CREATE TRIGGER refuse BEFORE INSERT ON receipt_snapshot "
+                                        "BEGIN SELECT RAISE(ABORT, 'refused'); END";
+    QTest::newRow("at the reservation") << "CREATE TRIGGER refuse BEFORE UPDATE ON reservations "
+                                           "BEGIN SELECT RAISE(ABORT, 'refused'); END";
+    QTest::newRow("by SQLite itself") << "CREATE TRIGGER refuse BEFORE INSERT ON receipt_snapshot "
+                                         "BEGIN SELECT RAISE(ROLLBACK, 'disk I/O error'); END";
+    QTest::newRow("at the commit") << "CREATE TRIGGER refuse AFTER INSERT ON receipt_snapshot "
+                                      "BEGIN INSERT INTO late (id) VALUES (99); END";
+}
+
+void tst_CheckoutFailures::theListsTellWhatIsStoredAfterAFailure()
+{
+    QFETCH(QString, sql);
+    m_store->database.run("CREATE TABLE late (id INTEGER REFERENCES tables(id) "
+                          "DEFERRABLE INITIALLY DEFERRED)");
+    m_store->database.run(sql);
+    FloorPlanService &plan = m_store->services.floorPlan;
+    const int floor = plan.createFloor(QStringLiteral("Hall"));
+    m_store->database.run(QStringLiteral("INSERT INTO canvas_items "
+                                         "(floor_id, table_id, type, x, y, width, height) "
+                                         "VALUES (%1, %2, 'table', 0, 0, 9, 9)")
+                              .arg(floor)
+                              .arg(m_table));
+    plan.loadCanvas(floor);
+    const QVariantList occupied{"occupied"};
+    QCOMPARE(ModelRows::column(*plan.canvasModel(), "status"), occupied);
+    QSignalSpy tables(&m_store->services.tables, &TableService::tablesChanged);
+    const LogCapture log;
+
+    QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
+
+    QCOMPARE(ModelRows::column(*m_store->services.tables.tableModel(), "status"), occupied);
+    QCOMPARE(ModelRows::column(*plan.canvasModel(), "status"), occupied);
+    QCOMPARE(tables.count(), 2);
+}
+
+void tst_CheckoutFailures::aFailureBeforeTheTableTellsNobodyAnything()
+{
+    m_store->refuse("UPDATE ON orders");
+    QSignalSpy tables(&m_store->services.tables, &TableService::tablesChanged);
+    const LogCapture log;
+
+    QVERIFY(!m_store->services.checkout.completeCheckout(m_session, phone, 100));
+
+    QCOMPARE(tables.count(), 0);
 }
 
 ZELVAN_TEST(tst_CheckoutFailures)

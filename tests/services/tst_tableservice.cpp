@@ -39,6 +39,7 @@ private slots:
     void aStatusIsStoredAndToldInOrder();
     void aStatusOfAnUnknownTableIsToldToo();
     void aFailedStatusIsToldToo();
+    void whatIsStoredIsToldOnceMore();
 
 private:
     std::unique_ptr<TestDatabase> m_database;
@@ -263,6 +264,23 @@ void tst_TableService::aFailedStatusIsToldToo()
     expectLog(QtWarningMsg, "setTableState failed:");
     QVERIFY(m_service->setTableStatus(1, "occupied"));
 
+    QCOMPARE(status.count(), 1);
+}
+
+void tst_TableService::whatIsStoredIsToldOnceMore()
+{
+    const int table = m_service->addTable("A1", 4);
+    QCOMPARE(ModelRows::column(*m_service->tableModel(), "status"), QVariantList({"available"}));
+    m_database->run("UPDATE tables SET status = 'occupied'");
+    QSignalSpy status(m_service.get(), &TableService::tableStatusChanged);
+    QSignalSpy tables(m_service.get(), &TableService::tablesChanged);
+
+    m_service->announceStoredStatus(table);
+
+    QCOMPARE(status, QList<QVariantList>({{table, "occupied"}}));
+    QCOMPARE(tables.count(), 1);
+    QCOMPARE(ModelRows::column(*m_service->tableModel(), "status"), QVariantList({"occupied"}));
+    m_service->announceStoredStatus(99);
     QCOMPARE(status.count(), 1);
 }
 
