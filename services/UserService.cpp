@@ -7,25 +7,63 @@
 
 #include <QThreadPool>
 
+#include <optional>
+
+namespace {
+/// The user to store, without a hash yet; absent where none may be made.
+std::optional<User> checkedUser(const UserRepository *users, GuiRendezvous &rendezvous,
+                                const QString &username, const QString &password,
+                                const QString &confirm, const QString &role)
+{
+    User user;
+    user.username = username.trimmed();
+    if (user.username.isEmpty() || password.isEmpty() || password != confirm) {
+        return std::nullopt;
+    }
+    bool accepted = false;
+    const bool asked = rendezvous.whileGuiStands([&] {
+        const std::optional<bool> noUsersYet = users->isEmpty();
+        // The first user of a database is always an admin, whatever was asked for.
+        user.role = noUsersYet.value_or(false) ? QStringLiteral("admin") : role;
+        accepted = noUsersYet && !users->usernameExists(user.username);
+    });
+    return asked && accepted ? std::optional(user) : std::nullopt;
+}
+} // namespace
+
 UserService::UserService(UserRepository *users, QObject *parent)
     : QObject(parent)
     , m_users(users)
     , m_userModel(new UserModel(users, this))
+    , m_rendezvous(GuiRendezvous::of(this))
 {
     m_userModel->reload();
+}
+
+UserService::~UserService()
+{
+    m_rendezvous->close();
 }
 
 void UserService::createUser(const QString &username, const QString &password,
                              const QString &confirm, const QString &role)
 {
-    QThreadPool::globalInstance()->start([this, username, password, confirm, role] {
-        const bool success = createUserChecked(username, password, confirm, role);
-        if (success) {
-            announceChange();
-        }
-        QMetaObject::invokeMethod(
-            this, [this, success] { emit createUserFinished(success); }, Qt::QueuedConnection);
-    });
+    // This object may go while the hash is made: it is touched only while the GUI thread stands.
+    QThreadPool::globalInstance()->start(
+        [this, users = m_users, rendezvous = m_rendezvous, username, password, confirm, role] {
+            bool success = false;
+            if (std::optional<User> user =
+                    checkedUser(users, *rendezvous, username, password, confirm, role)) {
+                user->password = hashPassword(password);
+                success = rendezvous->whileGuiStands([this, &user] {
+                    // Not examined: the name of a deactivated user is refused by the table, and
+                    // only the log tells.
+                    m_users->createUser(*user);
+                    announceChange();
+                });
+            }
+            rendezvous->post([this, success] { emit createUserFinished(success); });
+        });
 }
 
 bool UserService::updateUser(int userId, const QString &username, const QString &role)
@@ -68,27 +106,6 @@ bool UserService::deactivateUser(int userId)
     }
     m_users->remove(userId);
     announceChange();
-    return true;
-}
-
-bool UserService::createUserChecked(const QString &username, const QString &password,
-                                    const QString &confirm, const QString &role)
-{
-    const QString trimmedName = username.trimmed();
-    if (trimmedName.isEmpty() || password.isEmpty() || password != confirm) {
-        return false;
-    }
-    const std::optional<bool> noUsersYet = m_users->isEmpty();
-    if (!noUsersYet || m_users->usernameExists(trimmedName)) {
-        return false;
-    }
-    User user;
-    user.username = trimmedName;
-    user.password = hashPassword(password);
-    // The first user of a database is always an admin, whatever was asked for.
-    user.role = *noUsersYet ? QStringLiteral("admin") : role;
-    // Not examined: the name of a deactivated user is refused by the table, and only the log tells.
-    m_users->createUser(user);
     return true;
 }
 

@@ -3,9 +3,12 @@
 #pragma once
 
 #include "models/UserModel.h"
+#include "services/GuiRendezvous.h"
 
 #include <QObject>
 #include <QString>
+
+#include <memory>
 
 class UserRepository;
 
@@ -18,12 +21,14 @@ class UserService final : public QObject
 
 public:
     explicit UserService(UserRepository *users, QObject *parent = nullptr);
+    ~UserService() override;
+    Q_DISABLE_COPY_MOVE(UserService)
 
     [[nodiscard]] UserModel *userModel() const { return m_userModel; }
 
     /// Returns at once and ends in `createUserFinished`. The work is done on a thread of the global
-    /// pool, which this object must outlive: hashing, the statements, the refill of the model and
-    /// `usersChanged`.
+    /// pool: hashing and, while this thread stands still in its event loop, the statements, the
+    /// refill of the model and `usersChanged`. What is under way when this object goes is dropped.
     Q_INVOKABLE void createUser(const QString &username, const QString &password,
                                 const QString &confirm, const QString &role);
     /// False for an unknown or deactivated user and for a blank name; true says only that the
@@ -43,10 +48,9 @@ signals:
     void usersChanged();
 
 private:
-    [[nodiscard]] bool createUserChecked(const QString &username, const QString &password,
-                                         const QString &confirm, const QString &role);
     void announceChange();
 
     UserRepository *m_users;
     UserModel *m_userModel;
+    std::shared_ptr<GuiRendezvous> m_rendezvous;
 };

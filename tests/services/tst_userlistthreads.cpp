@@ -71,8 +71,8 @@ void tst_UserListThreads::init()
 
 void tst_UserListThreads::cleanup()
 {
-    QThreadPool::globalInstance()->waitForDone();
     m_service.reset();
+    QThreadPool::globalInstance()->waitForDone();
     m_users.reset();
     m_database.reset();
 }

@@ -34,6 +34,7 @@ private slots:
     void theCallReturnsAtOnceAndFinishesOnTheGuiThread();
     void theListIsRefilledOnThePoolThread();
     void aRefusalRefillsNothing();
+    void aUserUnderWayWhenTheServiceGoesIsDropped();
 
     void anEditStoresTrimmedNameAndAnyRole();
     void anEditOfANameTakenReportsSuccessAndChangesNothing();
@@ -68,8 +69,8 @@ void tst_UserService::init()
 
 void tst_UserService::cleanup()
 {
-    QThreadPool::globalInstance()->waitForDone();
     m_service.reset();
+    QThreadPool::globalInstance()->waitForDone();
     m_users.reset();
     m_database.reset();
 }
@@ -199,12 +200,12 @@ void tst_UserService::theCallReturnsAtOnceAndFinishesOnTheGuiThread()
         [&finishingThread] { finishingThread = QThread::currentThread(); }, Qt::DirectConnection);
 
     m_service->createUser("mei", "pw", "pw", "admin");
-    QThreadPool::globalInstance()->waitForDone();
 
-    // Done on the pool, and nobody told before the event loop runs.
-    QCOMPARE(m_database->value("SELECT COUNT(*) FROM users"), QVariant(1));
+    // Nothing is asked of the store before the event loop runs.
     QCOMPARE(finished.count(), 0);
+    QCOMPARE(m_database->value("SELECT COUNT(*) FROM users"), QVariant(0));
     QVERIFY(finished.wait());
+    QCOMPARE(m_database->value("SELECT COUNT(*) FROM users"), QVariant(1));
     QCOMPARE(finishingThread, QThread::currentThread());
 }
 
@@ -240,6 +241,18 @@ void tst_UserService::aRefusalRefillsNothing()
 
     QCOMPARE(resets.count(), 0);
     QCOMPARE(changed.count(), 0);
+}
+
+void tst_UserService::aUserUnderWayWhenTheServiceGoesIsDropped()
+{
+    m_service->createUser("mei", "pw", "pw", "admin");
+    m_service->createUser("tom", "pw", "pw", "admin");
+
+    m_service.reset();
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+
+    QCOMPARE(m_database->value("SELECT COUNT(*) FROM users"), QVariant(0));
 }
 
 void tst_UserService::anEditStoresTrimmedNameAndAnyRole()
