@@ -16,6 +16,7 @@ class QString;
     CALL(cupsLastError)                                                                            \
     CALL(cupsServer)                                                                               \
     CALL(cupsSetPasswordCB2)                                                                       \
+    CALL(cupsSetUser)                                                                              \
     CALL(cupsStartDocument)                                                                        \
     CALL(cupsUser)                                                                                 \
     CALL(cupsWriteRequestData)                                                                     \
@@ -23,6 +24,7 @@ class QString;
     CALL(httpClose)                                                                                \
     CALL(httpConnect2)                                                                             \
     CALL(httpError)                                                                                \
+    CALL(httpGetFd)                                                                                \
     CALL(httpGetStatus)                                                                            \
     CALL(httpSetTimeout)                                                                           \
     CALL(ippAddString)                                                                             \

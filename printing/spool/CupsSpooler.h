@@ -9,12 +9,12 @@
 #include <map>
 #include <memory>
 
-class CupsConnection;
+class CupsConversation;
 struct CupsLibrary;
 
 /// CUPS behind the Windows calls: an open printer is a connection to the server, a document is one
-/// raw job. Error codes are IPP status codes. A server that gives no sign of life for two seconds
-/// is taken for one that does not run.
+/// raw job. Error codes are IPP status codes. A server from which no answer comes within two
+/// seconds, whatever else it sends, is taken for one that does not run.
 class CupsSpooler final : public RawSpooler
 {
 public:
@@ -40,13 +40,13 @@ public:
 private:
     class Document;
 
-    [[nodiscard]] const CupsLibrary *cups();
+    [[nodiscard]] std::shared_ptr<const CupsLibrary> cups();
     [[nodiscard]] Document *document(Handle handle) const;
     bool listDestinations();
-    bool noted(bool succeeded, const CupsConnection &connection);
+    bool noted(bool succeeded, const CupsConversation &conversation);
 
     QString m_library;
-    std::unique_ptr<const CupsLibrary> m_cups;
+    std::shared_ptr<const CupsLibrary> m_cups;
     std::map<Handle, std::unique_ptr<Document>> m_documents;
     Handle m_lastHandle = 0;
     std::vector<PrinterInfo> m_destinations;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "printing/spool/CupsSpooler.h"
 #include "support/PrivateCups.h"
+#include "support/RestlessServer.h"
 #include "support/ZelvanTest.h"
 
 #include <QElapsedTimer>
@@ -57,6 +58,9 @@ private slots:
     void aServerThatNeverAnswersIsAnErrorInTwoSeconds();
     void aServerLostMidWayIsAnErrorThatCostsOneWait_data();
     void aServerLostMidWayIsAnErrorThatCostsOneWait();
+    void aServerThatNeverStopsSendingIsAnErrorInTwoSeconds_data();
+    void aServerThatNeverStopsSendingIsAnErrorInTwoSeconds();
+    void aNameThatIsLookedUpForEverIsAnErrorInTwoSeconds();
 
 private:
     /// Opens the printer and starts a document on it.
@@ -299,6 +303,64 @@ void tst_CupsSpooler::aServerLostMidWayIsAnErrorThatCostsOneWait()
     QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
     QVERIFY(closed);
     QVERIFY2(elapsed < promisedMs, qPrintable(QString::number(elapsed)));
+}
+
+void tst_CupsSpooler::aServerThatNeverStopsSendingIsAnErrorInTwoSeconds_data()
+{
+    QTest::addColumn<QByteArray>("once");
+    QTest::addColumn<QByteArray>("again");
+    QTest::addColumn<int>("pauseMs");
+    const QByteArray ok = "HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\n";
+
+    QTest::newRow("go on, go on") << QByteArray() << QByteArray("HTTP/1.1 100 Continue\r\n\r\n")
+                                  << 0;
+    QTest::newRow("headers without an end") << ok << QByteArray("X-Field: value\r\n") << 0;
+    // A good answer's beginning, then one attribute after the other.
+    QTest::newRow("an answer without an end")
+        << ok + QByteArray("Content-Length: 2000000000\r\n\r\n"
+                           "\x02\x00\x00\x00\x00\x00\x00\x01\x04",
+                           51)
+        << QByteArray("\x44\x00\x04name\x00\x05value", 14) << 0;
+    QTest::newRow("a byte at a time") << QByteArray("HTTP/1.1 200 O") << QByteArray("K") << 200;
+}
+
+void tst_CupsSpooler::aServerThatNeverStopsSendingIsAnErrorInTwoSeconds()
+{
+    QFETCH(QByteArray, once);
+    QFETCH(QByteArray, again);
+    QFETCH(int, pauseMs);
+    const RestlessServer server(once, again, std::chrono::milliseconds(pauseMs));
+    useServer(server.port());
+    CupsSpooler spooler;
+    QElapsedTimer clock;
+
+    clock.start();
+    RawSpooler::Handle handle = 0;
+    QVERIFY(!spooler.openPrinter(u"TM88", handle));
+
+    QVERIFY2(clock.elapsed() < promisedMs, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+    // Nobody goes on listening to it.
+    QTRY_VERIFY(server.isLeft());
+}
+
+void tst_CupsSpooler::aNameThatIsLookedUpForEverIsAnErrorInTwoSeconds()
+{
+    CupsSpooler spooler(QStringLiteral(ZELVAN_SLOW_CUPS));
+    QElapsedTimer clock;
+
+    clock.start();
+    RawSpooler::Handle handle = 0;
+    QVERIFY(!spooler.openPrinter(u"TM88", handle));
+    QVERIFY2(clock.elapsed() < promisedMs, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
+
+    clock.start();
+    std::uint32_t needed = 0;
+    std::vector<RawSpooler::PrinterInfo> printers;
+    QVERIFY(!spooler.enumPrinters(0, needed, printers));
+    QVERIFY2(clock.elapsed() < promisedMs, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(needed, 1u);
 }
 
 ZELVAN_TEST(tst_CupsSpooler)

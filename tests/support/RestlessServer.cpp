@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#include "support/RestlessServer.h"
+
+#include <utility>
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+bool sendAll(int client, const QByteArray &bytes)
+{
+    for (qsizetype sent = 0; sent < bytes.size();) {
+        const ssize_t now = ::send(client, bytes.constData() + sent,
+                                   static_cast<size_t>(bytes.size() - sent), MSG_NOSIGNAL);
+        if (now <= 0) {
+            return false;
+        }
+        sent += now;
+    }
+    return true;
+}
+} // namespace
+
+RestlessServer::RestlessServer(QByteArray once, QByteArray again, std::chrono::milliseconds pause)
+    : m_once(std::move(once))
+    , m_again(std::move(again))
+    , m_pause(pause)
+    , m_listening(::socket(AF_INET, SOCK_STREAM, 0))
+{
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof(address);
+    if (::bind(m_listening, reinterpret_cast<sockaddr *>(&address), size) != 0 ||
+        ::listen(m_listening, 1) != 0 ||
+        ::getsockname(m_listening, reinterpret_cast<sockaddr *>(&address), &size) != 0) {
+        qFatal("no port for the server");
+    }
+    m_port = ntohs(address.sin_port);
+    m_thread = std::thread(&RestlessServer::serve, this);
+}
+
+RestlessServer::~RestlessServer()
+{
+    ::shutdown(m_listening, SHUT_RDWR);
+    m_thread.join();
+    ::close(m_listening);
+}
+
+void RestlessServer::serve()
+{
+    const int client = ::accept(m_listening, nullptr, nullptr);
+    bool there = client >= 0 && sendAll(client, m_once);
+    while (there) {
+        there = sendAll(client, m_again);
+        std::this_thread::sleep_for(m_pause);
+    }
+    ::close(client);
+    m_left = true;
+}
