@@ -21,6 +21,20 @@ if(NOT MSVC)
     endif()
 endif()
 
+# What a distribution hardens its programs with; tests/structure/check_hardening.py looks for it in the
+# program itself. A sanitizer stands in the way of some of it and checks more.
+if(UNIX AND NOT APPLE AND NOT ZELVAN_SANITIZE)
+    set(hardening -fstack-protector-strong -fstack-clash-protection)
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64|i[3-6]86")
+        list(APPEND hardening -fcf-protection)
+    endif()
+    target_compile_options(zelvan_options INTERFACE
+        "$<$<CONFIG:Release>:${hardening};-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>")
+    # The code is position-independent already: Qt asks for it.
+    target_link_options(zelvan_options INTERFACE
+        "$<$<CONFIG:Release>:-pie;-Wl,-z,relro;-Wl,-z,now;-Wl,-z,noexecstack>")
+endif()
+
 # zelvan_layer(NAME [OWN_HEADER] SOURCES ... LINKS ...): one layer as a static library. Layers share the
 # precompiled header of zelvan_core; one that uses more modules of Qt needs its own.
 function(zelvan_layer name)
