@@ -28,8 +28,8 @@ Services::Services(AppService &appService, DatabaseManager &database, Repositori
     , settings(&repositories.restaurant, &repositories.printers, &repositories.taxSettings,
                &repositories.membershipSettings, &repositories.kitchenSettings,
                &repositories.regionalSettings, &repositories.tableSettings)
-    , kitchenTickets(&repositories.regionalSettings)
-    , receipts(&repositories.regionalSettings)
+    , kitchenTickets(repositories.regionalSettings)
+    , receipts(repositories.regionalSettings)
     , reservations(&repositories.reservations, &tables)
     , kitchenOrders(&repositories.orderSessions, &repositories.orders, &repositories.orderItems,
                     &repositories.tables)

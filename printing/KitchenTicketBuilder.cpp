@@ -72,7 +72,7 @@ void appendItem(EscPosBuilder &ticket, const OrderItem &item, int lineWidth)
 }
 } // namespace
 
-KitchenTicketBuilder::KitchenTicketBuilder(RegionalSettingsRepository *regionalSettings)
+KitchenTicketBuilder::KitchenTicketBuilder(const RegionalSettingsRepository &regionalSettings)
     : m_regionalSettings(regionalSettings)
 {}
 
@@ -103,7 +103,7 @@ QByteArray KitchenTicketBuilder::build(const Order &order, const OrderSession &s
 void KitchenTicketBuilder::appendPrintTime(EscPosBuilder &ticket) const
 {
     const QDateTime now = QDateTime::currentDateTime();
-    const QLocale locale = PrintLayout::localeFor(*m_regionalSettings);
+    const QLocale locale = PrintLayout::localeFor(m_regionalSettings);
     ticket.text(PrintLayout::shortDate(locale, now) + QLatin1Char(' ') +
                 PrintLayout::timeOfDay(now));
     ticket.newline();

@@ -17,7 +17,7 @@ class KitchenTicketBuilder final
 {
 public:
     /// The repository is asked for the store's locale at every build and is not owned.
-    explicit KitchenTicketBuilder(RegionalSettingsRepository *regionalSettings);
+    explicit KitchenTicketBuilder(const RegionalSettingsRepository &regionalSettings);
 
     /// The bytes for this printer's paper width and cut, dated with the local clock; cannot fail.
     [[nodiscard]] QByteArray build(const Order &order, const OrderSession &session,
@@ -26,5 +26,5 @@ public:
 private:
     void appendPrintTime(EscPosBuilder &ticket) const;
 
-    RegionalSettingsRepository *m_regionalSettings;
+    const RegionalSettingsRepository &m_regionalSettings;
 };

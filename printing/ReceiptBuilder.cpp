@@ -223,13 +223,13 @@ QString ReceiptWriter::money(double units) const
 
 } // namespace
 
-ReceiptBuilder::ReceiptBuilder(RegionalSettingsRepository *regionalSettings)
+ReceiptBuilder::ReceiptBuilder(const RegionalSettingsRepository &regionalSettings)
     : m_regionalSettings(regionalSettings)
 {}
 
 QByteArray ReceiptBuilder::build(const ReceiptData &receipt, const Printer &printer) const
 {
-    const QLocale locale = PrintLayout::localeFor(*m_regionalSettings);
+    const QLocale locale = PrintLayout::localeFor(m_regionalSettings);
     ReceiptWriter writer(receipt, locale, PrintLayout::lineWidth(printer.paper_width));
     writer.header();
     writer.order();

@@ -13,11 +13,11 @@ class ReceiptBuilder final
 {
 public:
     /// The repository is asked for the store's locale at every build and is not owned.
-    explicit ReceiptBuilder(RegionalSettingsRepository *regionalSettings);
+    explicit ReceiptBuilder(const RegionalSettingsRepository &regionalSettings);
 
     /// The bytes for this printer's paper width and cut, dated with the local clock; cannot fail.
     [[nodiscard]] QByteArray build(const ReceiptData &receipt, const Printer &printer) const;
 
 private:
-    RegionalSettingsRepository *m_regionalSettings;
+    const RegionalSettingsRepository &m_regionalSettings;
 };

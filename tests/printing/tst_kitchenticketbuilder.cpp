@@ -77,7 +77,7 @@ QByteArray tst_KitchenTicketBuilder::ticket(const OrderSession &of, const QList<
     Order order;
     order.id = 3;
     order.display_number = 42;
-    return KitchenTicketBuilder(&m_store->settings).build(order, of, items, on);
+    return KitchenTicketBuilder(m_store->settings).build(order, of, items, on);
 }
 
 void tst_KitchenTicketBuilder::aTicketIsLaidOutToTheByte_data()
@@ -213,7 +213,7 @@ void tst_KitchenTicketBuilder::theDateIsThatOfTheStoresLocale()
 
 void tst_KitchenTicketBuilder::theLocaleIsReadAtEachBuild()
 {
-    const KitchenTicketBuilder builder(&m_store->settings);
+    const KitchenTicketBuilder builder(m_store->settings);
     const QByteArray first = builder.build({}, session("takeaway"), {}, PaperStore::printer());
     m_store->useLocale(QStringLiteral("zh_CN"));
 

@@ -79,7 +79,7 @@ void tst_ReceiptBuilder::init()
 
 QByteArray tst_ReceiptBuilder::print(const ReceiptData &receipt, const Printer &on) const
 {
-    return ReceiptBuilder(&m_store->settings).build(receipt, on);
+    return ReceiptBuilder(m_store->settings).build(receipt, on);
 }
 
 void tst_ReceiptBuilder::aFullReceiptIsLaidOutToTheByte()

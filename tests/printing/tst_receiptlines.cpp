@@ -49,7 +49,7 @@ void tst_ReceiptLines::init()
 
 QByteArray tst_ReceiptLines::print(const ReceiptData &receipt) const
 {
-    return ReceiptBuilder(&m_store->settings).build(receipt, PaperStore::printer());
+    return ReceiptBuilder(m_store->settings).build(receipt, PaperStore::printer());
 }
 
 void tst_ReceiptLines::aLineIsPrintedOnlyWhenStated_data()
