@@ -22,11 +22,18 @@ QNetworkRequest formRequest(const QUrl &endpoint)
     return request;
 }
 
+/// A query takes its items as already encoded: a plus or a percent sign in one would stand for
+/// something else to the reader of the form.
+QString asTyped(const QString &text)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(text, "@"));
+}
+
 QByteArray formBody(const QString &name, const QString &email)
 {
     QUrlQuery query;
-    query.addQueryItem(QStringLiteral("name"), name);
-    query.addQueryItem(QStringLiteral("email"), email);
+    query.addQueryItem(QStringLiteral("name"), asTyped(name));
+    query.addQueryItem(QStringLiteral("email"), asTyped(email));
     query.addQueryItem(QStringLiteral("_subject"), QStringLiteral("Zelvan Beta Signup"));
     query.addQueryItem(QStringLiteral("version"), betaVersion);
     return query.toString(QUrl::FullyEncoded).toUtf8();

@@ -47,6 +47,16 @@ private:
 
     QByteArray m_received;
 };
+
+/// Name and value as the reader of a form takes them: a plus is a blank, and what follows a percent
+/// sign is a byte.
+QPair<QString, QString> readField(QByteArray field)
+{
+    field.replace('+', ' ');
+    const qsizetype end = field.indexOf('=');
+    return {QString::fromUtf8(QByteArray::fromPercentEncoding(field.left(end))),
+            QString::fromUtf8(QByteArray::fromPercentEncoding(field.mid(end + 1)))};
+}
 } // namespace
 
 class tst_BetaService : public ZelvanTest
@@ -56,6 +66,8 @@ class tst_BetaService : public ZelvanTest
 private slots:
     void theFormIsPostedWithItsFourFields();
     void aTextIsEncodedAsUtf8();
+    void aFormReaderGetsWhatWasTyped_data();
+    void aFormReaderGetsWhatWasTyped();
     void aRefusalIsNoSuccess();
     void anUnreachableServerIsNoSuccess();
     void aBlankEmailSendsNothing_data();
@@ -94,6 +106,36 @@ void tst_BetaService::aTextIsEncodedAsUtf8()
     QVERIFY(finished.wait());
 
     QVERIFY(server.body().startsWith("name=%E9%A4%90%20%26%20S%C3%B6hne&email="));
+}
+
+void tst_BetaService::aFormReaderGetsWhatWasTyped_data()
+{
+    QTest::addColumn<QString>("typed");
+
+    QTest::newRow("plus") << "mei+till@example.invalid";
+    QTest::newRow("percent sign") << "100%";
+    QTest::newRow("percent sign before digits") << "%41%2B";
+    QTest::newRow("separators") << "a&b=c;d#e?f";
+    QTest::newRow("Chinese") << QString::fromUtf8("\xe9\xa4\x90\xe5\x8e\x85 + 100%");
+    QTest::newRow("beyond the first plane") << QString::fromUtf8("\xf0\x9f\x8d\x9c");
+    QTest::newRow("marks") << "~!$'()*,/:[]\\^`{|}\"<>";
+}
+
+void tst_BetaService::aFormReaderGetsWhatWasTyped()
+{
+    QFETCH(QString, typed);
+    const FormServer server("200 OK");
+    BetaService beta;
+    beta.setEndpoint(server.url());
+    QSignalSpy finished(&beta, &BetaService::submitFinished);
+
+    beta.submitBetaInfo(typed, typed);
+    QVERIFY(finished.wait());
+
+    const QByteArrayList fields = server.body().split('&');
+    QCOMPARE(fields.size(), 4);
+    QCOMPARE(readField(fields[0]), qMakePair(QStringLiteral("name"), typed));
+    QCOMPARE(readField(fields[1]), qMakePair(QStringLiteral("email"), typed));
 }
 
 void tst_BetaService::aRefusalIsNoSuccess()
