@@ -50,4 +50,11 @@ template<std::signed_integral T>
     }
     return static_cast<T>(value);
 }
+
+/// As truncate(), to the nearest whole number.
+template<std::signed_integral T>
+[[nodiscard]] T nearest(double value)
+{
+    return truncate<T>(std::round(value));
+}
 } // namespace Arithmetic

@@ -23,9 +23,12 @@ QString textOf(const QVariantMap &map, const char *key)
     return text.isNull() ? QStringLiteral("") : text;
 }
 
+/// A number too large to be stored, which a script hands over as a double, ends at the bound.
 int integerOf(const QVariantMap &map, const char *key, int absent = 0)
 {
-    return map.value(QLatin1String(key), absent).toInt();
+    const QVariant value = map.value(QLatin1String(key), absent);
+    return value.typeId() == QMetaType::Double ? Arithmetic::nearest<int>(value.toDouble())
+                                               : value.toInt();
 }
 
 bool flagOf(const QVariantMap &map, const char *key)

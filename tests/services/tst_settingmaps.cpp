@@ -29,6 +29,8 @@ private slots:
     void aRefusedPrinterReportsSuccess();
 
     void theTaxIsSavedUnchecked();
+    void wholeNumbersOutOfRangeEndAtTheBounds_data();
+    void wholeNumbersOutOfRangeEndAtTheBounds();
     void membershipAmountsAreTruncatedToCents_data();
     void membershipAmountsAreTruncatedToCents();
     void membershipSettingsAreReadInUnits();
@@ -188,6 +190,39 @@ void tst_SettingMaps::theTaxIsSavedUnchecked()
                                {"registration_number", "R %2"},
                                {"name", "VAT %1"}};
     QCOMPARE(m_store->service.getTaxSettings(), expected);
+}
+
+void tst_SettingMaps::wholeNumbersOutOfRangeEndAtTheBounds_data()
+{
+    QTest::addColumn<double>("typed");
+    QTest::addColumn<int>("stored");
+
+    const int highest = std::numeric_limits<int>::max();
+    const int lowest = std::numeric_limits<int>::min();
+    QTest::newRow("highest") << 2147483647.0 << highest;
+    QTest::newRow("one above") << 2147483648.0 << highest;
+    QTest::newRow("eight nines in per cent") << 9999999900.0 << highest;
+    QTest::newRow("beyond 64 bits") << 1e30 << highest;
+    QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << highest;
+    QTest::newRow("lowest") << -2147483648.0 << lowest;
+    QTest::newRow("far below") << -1e30 << lowest;
+    QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN() << 0;
+    QTest::newRow("nearest") << 712.5 << 713;
+}
+
+void tst_SettingMaps::wholeNumbersOutOfRangeEndAtTheBounds()
+{
+    QFETCH(double, typed);
+    QFETCH(int, stored);
+
+    QVERIFY(m_store->service.saveTaxSettings({{"rate", typed}}));
+    QVERIFY(m_store->service.saveMembershipSettings(
+        {{"earn_points", typed}, {"redeem_points", typed}}));
+
+    QCOMPARE(m_store->service.getTaxSettings().value("rate"), QVariant(stored));
+    const QVariantMap membership = m_store->service.getMembershipSettings();
+    QCOMPARE(membership.value("earn_points"), QVariant(stored));
+    QCOMPARE(membership.value("redeem_points"), QVariant(stored));
 }
 
 void tst_SettingMaps::membershipAmountsAreTruncatedToCents_data()
