@@ -5,6 +5,7 @@ import QtQuick.Layouts
 import zelvan
 import zelvan.Theme 1.0
 import Zelvan.Services 1.0
+import "../components/Days.js" as Days
 
 // Sales and tax of a period: the sums, day by day, and every paid session. All amounts that the
 // service gives are cents.
@@ -38,23 +39,23 @@ Item {
     function periodOf(preset: string, now: var): var {
         const year = now.getFullYear()
         const month = now.getMonth()
-        const day = now.getDate()
-        let from = new Date(year, month, day)
-        let to = from
+        const today = Days.after(now, 0)
+        let from = today
+        let to = today
         switch (preset) {
         case "yesterday":
-            from = new Date(year, month, day - 1)
+            from = Days.after(today, -1)
             to = from
             break
         case "week":
-            from = new Date(year, month, day - (now.getDay() === 0 ? 6 : now.getDay() - 1))
+            from = Days.after(today, today.getDay() === 0 ? -6 : 1 - today.getDay())
             break
         case "month":
-            from = new Date(year, month, 1)
+            from = Days.of(year, month, 1)
             break
         case "lastMonth":
-            from = new Date(year, month - 1, 1)
-            to = new Date(year, month, 0)
+            from = Days.of(year, month - 1, 1)
+            to = Days.of(year, month, 0)
             break
         }
         return { from: from, to: to }
@@ -62,9 +63,9 @@ Item {
 
     // A wrong or reversed range is passed over without a word.
     function loadCustomRange() {
-        const from = new Date(fromField.text + "T00:00:00")
-        const to = new Date(toField.text + "T00:00:00")
-        if (isNaN(from.getTime()) || isNaN(to.getTime()) || from > to)
+        const from = Days.parse(fromField.text)
+        const to = Days.parse(toField.text)
+        if (from === null || to === null || from > to)
             return
         fromDate = from
         toDate = to

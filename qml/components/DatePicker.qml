@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Controls
 import zelvan
 import zelvan.Theme 1.0
+import "Days.js" as Days
 
 // A date to book for: today up to the end of the year after next, picked from a month's grid.
 // The texts are English in every language.
@@ -20,12 +21,12 @@ Item {
     property date now: new Date()
 
     function sameDay(a: var, b: var): bool {
-        return a.getFullYear() === b.getFullYear() && a.getMonth() === b.getMonth() && a.getDate() === b.getDate()
+        return Days.number(a) === Days.number(b)
     }
 
     function cellDate(index: int): date {
-        const first = new Date(root.currentDate.getFullYear(), root.currentDate.getMonth(), 1)
-        return new Date(first.getFullYear(), first.getMonth(), 1 - first.getDay() + index)
+        const first = Days.of(root.currentDate.getFullYear(), root.currentDate.getMonth(), 1)
+        return Days.after(first, index - first.getDay())
     }
 
     function inCurrentMonth(day: date): bool {
@@ -33,20 +34,17 @@ Item {
     }
 
     function isPast(day: date): bool {
-        return day < new Date(root.now.getFullYear(), root.now.getMonth(), root.now.getDate())
+        return Days.number(day) < Days.number(root.now)
     }
 
     function isAllowed(day: date): bool {
-        const last = new Date(root.now)
-        last.setFullYear(last.getFullYear() + 2, 11, 31)
-        return day <= last
+        return Days.number(day) <= Days.number(Days.of(root.now.getFullYear() + 2, 11, 31))
     }
 
     // Meant as it is: the script's own month arithmetic, so one month on from 31 January is March.
     function moveMonth(step: int) {
-        const shown = new Date(root.currentDate)
-        shown.setMonth(shown.getMonth() + step)
-        root.currentDate = shown
+        const shown = root.currentDate
+        root.currentDate = Days.of(shown.getFullYear(), shown.getMonth() + step, shown.getDate())
     }
 
     function pick(day: date) {

@@ -15,6 +15,7 @@ Item {
     // Kept for screens that set it; nothing reads it.
     property bool restrictPastTimeToday: false
     readonly property int totalHours: endHour - startHour + 1
+    readonly property int stepsAnHour: Math.floor(60 / minuteStep)
 
     signal timeChanged(int hour, int minute)
 
@@ -23,18 +24,18 @@ Item {
         root.timeChanged(root.startHour + hourColumn.currentIndex, minuteColumn.currentIndex * root.minuteStep)
     }
 
-    // Rounds up to the next step. Clamping the hour leaves the minute as it is, which is meant:
-    // 23:40 shows as 22:45.
+    // Rounds up to the next step; past the hour's last one, to the next hour. Clamping the hour leaves
+    // the minute as it is, which is meant: 23:40 shows as 22:45.
     function showTime(presentHour: int, presentMinute: int) {
         let shownHour = presentHour
-        let shownMinute = Math.ceil(presentMinute / root.minuteStep) * root.minuteStep
-        if (shownMinute === 60) {
-            shownMinute = 0
+        let step = Math.ceil(presentMinute / root.minuteStep)
+        if (step >= root.stepsAnHour) {
+            step = 0
             shownHour += 1
         }
         shownHour = Math.max(root.startHour, Math.min(root.endHour, shownHour))
         hourColumn.currentIndex = shownHour - root.startHour
-        minuteColumn.currentIndex = Math.floor(shownMinute / root.minuteStep)
+        minuteColumn.currentIndex = step
     }
 
     width: 260
@@ -71,7 +72,7 @@ Item {
             objectName: "minuteColumn"
             width: hourColumn.width
             height: root.height
-            model: Math.floor(60 / root.minuteStep)
+            model: root.stepsAnHour
             step: root.minuteStep
             Accessible.name: "Minute"
             onCurrentIndexChanged: root.report()

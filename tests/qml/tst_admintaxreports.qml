@@ -73,7 +73,14 @@ ZelvanTestCase {
         return [
             { tag: "reversed", from: "2025-03-02", to: "2025-03-01" },
             { tag: "no date", from: "yesterday", to: "2025-03-01" },
-            { tag: "empty", from: "", to: "2025-03-01" }
+            { tag: "empty", from: "", to: "2025-03-01" },
+            { tag: "30 February", from: "2024-02-01", to: "2024-02-30" },
+            { tag: "leap day of a common year", from: "2023-02-29", to: "2023-03-31" },
+            { tag: "month 0", from: "2024-00-10", to: "2024-03-01" },
+            { tag: "month 13", from: "2024-01-01", to: "2024-13-01" },
+            { tag: "day 0", from: "2024-01-00", to: "2024-03-01" },
+            { tag: "31 April", from: "2024-04-01", to: "2024-04-31" },
+            { tag: "one digit", from: "2024-1-5", to: "2024-03-01" }
         ]
     }
 
@@ -87,6 +94,25 @@ ZelvanTestCase {
 
         compare(page.summary, before)
         compare(iso(page.fromDate), iso(new Date()))
+    }
+
+    function test_a_typed_range_is_taken_to_its_days_data() {
+        return [
+            { tag: "a leap day", from: "2024-02-29", to: "2024-02-29" },
+            { tag: "a century without one", from: "2100-02-28", to: "2100-03-01" },
+            { tag: "a year of three digits", from: "0099-12-31", to: "0100-01-01" },
+            { tag: "the last day", from: "2024-12-31", to: "2025-01-01" }
+        ]
+    }
+
+    function test_a_typed_range_is_taken_to_its_days(data) {
+        show("admin/AdminTaxReports")
+
+        field("From").text = data.from
+        field("To").text = data.to
+        page.loadCustomRange()
+
+        compare([page.summary.from, page.summary.to], [data.from, data.to])
     }
 
     function test_the_presets_data() {

@@ -227,6 +227,29 @@ ZelvanTestCase {
         compare(twoDigits(page.hour) + ":" + twoDigits(page.minute), data.shown)
     }
 
+    function test_a_step_that_does_not_divide_the_hour_ends_with_it_data() {
+        return [
+            { tag: "25: the first", step: 25, minute: 0, shown: "12:00" },
+            { tag: "25: the last", step: 25, minute: 25, shown: "12:25" },
+            { tag: "25: past the last", step: 25, minute: 26, shown: "13:00" },
+            { tag: "25: past the hour", step: 25, minute: 55, shown: "13:00" },
+            { tag: "7: the last", step: 7, minute: 49, shown: "12:49" },
+            { tag: "7: past the last", step: 7, minute: 52, shown: "13:00" },
+            { tag: "7: past the hour", step: 7, minute: 59, shown: "13:00" },
+            { tag: "60", step: 60, minute: 1, shown: "13:00" }
+        ]
+    }
+
+    function test_a_step_that_does_not_divide_the_hour_ends_with_it(data) {
+        page = create("components/TimePicker", { minuteStep: data.step })
+
+        page.showTime(12, data.minute)
+
+        const twoDigits = number => String(number).padStart(2, "0")
+        compare(twoDigits(page.hour) + ":" + twoDigits(page.minute), data.shown)
+        compare(findChild(page, "minuteColumn").count, Math.floor(60 / data.step))
+    }
+
     function test_it_starts_on_the_present_time() {
         const before = new Date()
         page = create("components/TimePicker")
