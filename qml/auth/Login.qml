@@ -11,19 +11,20 @@ import zelvan.Theme 1.0
 FocusScope {
     id: root
 
-    readonly property var homes: ({
-        admin: "../admin/AdminHome.qml",
-        service_staff: "../serviceStaff/ServiceStaffHome.qml",
-        kitchen_staff: "../kitchenStaff/KitchenStaffHome.qml"
-    })
+    readonly property var homes: new Map([
+        ["admin", "../admin/AdminHome.qml"],
+        ["service_staff", "../serviceStaff/ServiceStaffHome.qml"],
+        ["kitchen_staff", "../kitchenStaff/KitchenStaffHome.qml"]
+    ])
 
     function logIn(): void {
         if (!AuthService.login(usernameField.text, passwordField.text)) {
             errorLabel.text = qsTr("Invalid username or password.")
             return
         }
-        // A role without a home is meant to stay here, in a maximised window.
-        const home = root.homes[AuthService.currentUserRole]
+        errorLabel.text = ""
+        // A role without a home is meant to stay here, in a maximised window and without a message.
+        const home = root.homes.get(AuthService.currentUserRole)
         if (home !== undefined)
             stackView.push(home) // qmllint disable unqualified
         root.Window.window.showMaximized()
@@ -76,7 +77,7 @@ FocusScope {
                     padding: 15
                     text: qsTr("Login")
 
-                    onClicked: root.logIn()
+                    onClicked: Work.start(root.logIn)
                 }
 
                 PlainLabel {

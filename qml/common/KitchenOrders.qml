@@ -48,8 +48,10 @@ Rectangle {
                 shown[order.id] = order
             orders = shown
             for (let row = ids.count - 1; row >= 0; --row) {
-                if (!(ids.get(row).orderId in shown))
+                if (!(ids.get(row).orderId in shown)) {
                     ids.remove(row)
+                    slideGuard.restart()
+                }
             }
             model.forEach((order, row) => {
                 if (row === ids.count || ids.get(row).orderId !== order.id)
@@ -58,6 +60,11 @@ Rectangle {
             // Orders that stand in another order than before were put in a second time.
             if (ids.count > model.length)
                 ids.remove(model.length, ids.count - model.length)
+        }
+
+        function act(orderId: int) {
+            if (!slideGuard.running)
+                KitchenOrderService.markState(orderId, column.nextState)
         }
 
         Layout.fillWidth: true
@@ -81,7 +88,13 @@ Rectangle {
             id: ids
         }
 
+        SlideGuard {
+            id: slideGuard
+        }
+
         ListView {
+            id: cards
+
             Layout.fillWidth: true
             Layout.fillHeight: true
             clip: true
@@ -99,7 +112,7 @@ Rectangle {
                 order: column.orders[orderId] ?? { items: [] }
                 noteTitle: qsTr("NOTE: ")
                 actionText: column.actionText
-                onActed: KitchenOrderService.markState(orderId, column.nextState)
+                onActed: column.act(orderId)
             }
         }
 

@@ -117,6 +117,8 @@ Item {
                 spacing: 8
 
                 Repeater {
+                    id: floorTabs
+
                     model: FloorPlanService.floorModel
 
                     ChoiceButton {

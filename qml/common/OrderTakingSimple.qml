@@ -200,7 +200,7 @@ Item {
                             visible: root.currentOrderId >= 0 && root.kitchenSettings.ticket_print_timing === "manual"
                             text: qsTr("Print Ticket")
                             fillColor: Theme.primary()
-                            onClicked: OrderService.printKitchenTicket(root.currentOrderId)
+                            onClicked: Work.start(() => OrderService.printKitchenTicket(root.currentOrderId))
                         }
                     }
 
@@ -234,6 +234,8 @@ Item {
                     }
 
                     ListView {
+                        id: openOrders
+
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                         visible: root.showEditOrdersList
@@ -277,7 +279,7 @@ Item {
                         padding: 15
                         enabled: orderModel.count > 0 && (root.currentOrderType !== "dine_in" || root.selectedTableId !== -1)
                         text: root.currentOrderId >= 0 ? qsTr("Edit Order") : qsTr("Place Order")
-                        onClicked: root.sendOrder()
+                        onClicked: Work.start(root.sendOrder)
                     }
                 }
             }

@@ -12,8 +12,13 @@ ModalFrame {
     property string title: qsTr("Confirm")
     property string message: qsTr("Are you sure?")
     property var confirmCallback: null
+    // The buttons can still be pressed while the dialog fades away.
+    property bool answered: false
 
     function finish(confirmed: bool): void {
+        if (root.answered)
+            return
+        root.answered = true
         root.close()
         if (root.confirmCallback)
             root.confirmCallback(confirmed) // qmllint disable type
@@ -70,4 +75,6 @@ ModalFrame {
             }
         }
     }
+
+    onAboutToShow: root.answered = false
 }

@@ -21,7 +21,7 @@ RowLayout {
         Layout.fillWidth: true
         Layout.preferredHeight: 40
 
-        onClicked: root.accepted()
+        onClicked: Work.start(root.accepted)
     }
 
     FilledButton {

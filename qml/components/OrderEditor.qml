@@ -162,7 +162,7 @@ Rectangle {
                         padding: 15
                         enabled: orderModel.count > 0
                         text: root.currentOrderId >= 0 ? qsTr("Update Order") : qsTr("Place Order")
-                        onClicked: root.sendOrder()
+                        onClicked: Work.start(root.sendOrder)
                     }
                 }
             }

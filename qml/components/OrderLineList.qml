@@ -23,6 +23,10 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: title
 
+    SlideGuard {
+        id: slideGuard
+    }
+
     delegate: OrderLineRow {
         required property var model
 
@@ -35,6 +39,11 @@ ListView {
         remarkPlaceholder: root.remarkPlaceholder
         onStepped: quantity => root.lines.setProperty(model.index, "qty", quantity)
         onRemarkEdited: remark => root.lines.setProperty(model.index, "notes", remark)
-        onRemoveRequested: root.lines.remove(model.index)
+        onRemoveRequested: {
+            if (slideGuard.running)
+                return
+            slideGuard.restart()
+            root.lines.remove(model.index)
+        }
     }
 }

@@ -99,7 +99,7 @@ ModalFrame {
                 enabled: confirmation.text === "REPLACE"
                 text: qsTranslate("SetupDBChoice", "Replace Database")
 
-                onClicked: root.replace()
+                onClicked: Work.start(root.replace)
             }
         }
     }

@@ -19,7 +19,7 @@ ScrollPage {
 
             fillColor: Theme.primary()
 
-            onClicked: root.saveRequested()
+            onClicked: Work.start(root.saveRequested)
         },
         ErrorLabel {
             Layout.fillWidth: true

@@ -14,6 +14,8 @@ Item {
 
     // The texts of this screen's errors are English in every language.
     function register(): void {
+        if (root.running)
+            return
         const username = usernameField.text.trim()
         const password = passwordField.text
         const confirmation = confirmationField.text

@@ -69,7 +69,7 @@ SetupFrame {
         padding: 12
         text: root.submitting ? qsTr("Sending...") : qsTr("Continue")
 
-        onClicked: root.submit()
+        onClicked: Work.start(root.submit)
     }
 
     Button {
@@ -91,7 +91,7 @@ SetupFrame {
             textFormat: Text.PlainText
         }
 
-        onClicked: root.goOn()
+        onClicked: Work.start(root.goOn)
     }
 
     Connections {

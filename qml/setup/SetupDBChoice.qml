@@ -106,7 +106,7 @@ SetupFrame {
         text: qsTr("Create New Database Here")
         visible: root.mode === "missing"
 
-        onClicked: root.createHere()
+        onClicked: Work.start(root.createHere)
     }
 
     SetupChoiceButton {
@@ -124,7 +124,7 @@ SetupFrame {
         text: qsTr("Use Existing Database")
         visible: root.mode === "exists"
 
-        onClicked: root.useExisting()
+        onClicked: Work.start(root.useExisting)
     }
 
     SetupChoiceButton {

@@ -3,6 +3,7 @@
 import QtQuick
 import QtTest
 import Zelvan.Services 1.0
+import zelvan
 import ZelvanTest 1.0
 
 // The root of every test of the screens. Each test function starts on the store of the first run and
@@ -121,12 +122,15 @@ TestCase {
         return allShown(item => isButton(item) && item.text === text).length > 0
     }
 
+    // Once what was pressed before is done with.
     function press(text: string, index: var) {
+        tryVerify(() => !Work.busy)
         click(button(text, index))
     }
 
     // Of a dialog over the page: its buttons are painted after those of the rows.
     function answerWith(answer: string) {
+        tryVerify(() => !Work.busy)
         const found = allShown(item => isButton(item) && item.text === answer)
         mouseClick(found[found.length - 1])
     }

@@ -63,6 +63,41 @@ ScreenTestCase {
         verify(!shows("Invalid username or password."))
     }
 
+    function test_a_refusal_goes_with_the_log_in_that_follows() {
+        addUser("first", "admin")
+        addUser("ann", "Service Staff")
+        logIn("ann", "guess")
+        verify(shows("Invalid username or password."))
+
+        enter("Password", "secret")
+        press("Login")
+
+        compare(AuthService.currentUsername, "ann")
+        compare(shownScreen(), "Login")
+        verify(!shows("Invalid username or password."))
+    }
+
+    function test_a_role_of_any_text_without_a_home_stays_on_the_form_data() {
+        return [
+            { tag: "toString" },
+            { tag: "constructor" },
+            { tag: "__proto__" },
+            { tag: "hasOwnProperty" },
+            { tag: "" }
+        ]
+    }
+
+    function test_a_role_of_any_text_without_a_home_stays_on_the_form(data) {
+        addUser("first", "admin")
+        addUser("ann", data.tag)
+
+        logIn("ann", "secret")
+
+        compare(AuthService.currentUserRole, data.tag)
+        compare(shownScreen(), "Login")
+        compare(stack.depth, 1)
+    }
+
     function test_a_wrong_entry_is_refused_and_keeps_the_fields_data() {
         return [
             { tag: "wrong password", username: "ann", password: "guess" },

@@ -9,7 +9,12 @@ import zelvan
 ModalFrame {
     id: root
 
+    property bool running: false
+
     function create(): void {
+        if (root.running)
+            return
+        root.running = true
         // The visible text of the role is stored, not its value. That is meant: see the role's readers.
         UserService.createUser(usernameField.text, passwordField.text, confirmationField.text,
                                roleField.comboBox.currentText)
@@ -82,6 +87,7 @@ ModalFrame {
     Connections {
         // After a refusal the dialog stays, empty and without a message.
         function onCreateUserFinished(success: bool): void {
+            root.running = false
             if (success && root.visible)
                 root.close()
         }

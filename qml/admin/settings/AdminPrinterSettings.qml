@@ -31,6 +31,9 @@ ScrollPage {
     }
 
     function removePrinter(printerId: int): void {
+        if (slideGuard.running)
+            return
+        slideGuard.restart()
         if (SettingService.removePrinter(printerId))
             root.loadPrinters()
         else
@@ -114,7 +117,7 @@ ScrollPage {
                         text: qsTr("Test")
 
                         // The result is not shown; the log has it.
-                        onClicked: WindowsPrinterService.testPrint(card.modelData)
+                        onClicked: Work.start(() => WindowsPrinterService.testPrint(card.modelData))
                     }
 
                     RowButton {
@@ -126,6 +129,10 @@ ScrollPage {
                 }
             }
         }
+    }
+
+    SlideGuard {
+        id: slideGuard
     }
 
     PrinterDialog {

@@ -191,7 +191,7 @@ ModalFrame {
                 fillColor: "#5F7DDC"
                 text: qsTranslate("AdminPrinterSettings", "Test Printer")
 
-                onClicked: printerRoot.testPrinter()
+                onClicked: Work.start(printerRoot.testPrinter)
             }
 
             PrimaryButton {
@@ -199,7 +199,7 @@ ModalFrame {
                 text: printerRoot.isEditMode ? qsTranslate("AdminPrinterSettings", "Save Changes")
                                              : qsTranslate("AdminPrinterSettings", "Add Printer")
 
-                onClicked: printerRoot.save()
+                onClicked: Work.start(printerRoot.save)
             }
         }
 

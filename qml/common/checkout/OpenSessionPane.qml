@@ -76,6 +76,6 @@ ColumnLayout {
         text: qsTranslate("Checkout", "Checkout")
         fillColor: root.page.canCheckout ? Theme.primary() : Theme.surface
         textColor: root.page.canCheckout ? "white" : Theme.secondaryText
-        onClicked: root.page.checkout()
+        onClicked: Work.start(root.page.checkout)
     }
 }

@@ -70,6 +70,6 @@ ColumnLayout {
         Layout.fillWidth: true
         text: qsTranslate("OrderTakingFloorPlan", "Cancel Reservation")
         fillColor: "#5a5a5a"
-        onClicked: root.cancelRequested()
+        onClicked: Work.start(root.cancelRequested)
     }
 }

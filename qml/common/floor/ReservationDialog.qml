@@ -190,7 +190,7 @@ ModalFrame {
 
             PrimaryButton {
                 text: root.confirmText
-                onClicked: root.confirm()
+                onClicked: Work.start(root.confirm)
             }
         }
     }
