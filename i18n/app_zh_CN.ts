@@ -1221,6 +1221,77 @@
     </message>
 </context>
 <context>
+    <name>Hints</name>
+    <message>
+        <source>No floors yet. Press + New Floor to draw the first one.</source>
+        <translation>还没有楼层。请按“+ 新建楼层”绘制第一个楼层。</translation>
+    </message>
+    <message>
+        <source>No members yet. A phone number typed under Checkout becomes a member with the payment.</source>
+        <translation>还没有会员。结账时输入的电话号码随付款成为会员。</translation>
+    </message>
+    <message>
+        <source>No member has this number.</source>
+        <translation>没有此号码的会员。</translation>
+    </message>
+    <message>
+        <source>No dishes in this category yet. Type a name and a price below, then press Add Menu Item.</source>
+        <translation>此分类还没有菜品。请在下方输入名称和价格，然后按“添加菜品”。</translation>
+    </message>
+    <message>
+        <source>No tables yet. Type a name below, then press Add Table.</source>
+        <translation>还没有餐桌。请在下方输入桌号，然后按“添加餐桌”。</translation>
+    </message>
+    <message>
+        <source>No points earned or redeemed yet.</source>
+        <translation>还没有积分记录。</translation>
+    </message>
+    <message>
+        <source>No categories yet. Type a name below, then press Add Category.</source>
+        <translation>还没有分类。请在下方输入名称，然后按“添加分类”。</translation>
+    </message>
+    <message>
+        <source>No printers yet. Press + Add Printer to choose one.</source>
+        <translation>还没有打印机。请按“+ 添加打印机”选择一台。</translation>
+    </message>
+    <message>
+        <source>No open bills. An order that is placed opens one.</source>
+        <translation>没有未结账单。下单后账单显示在这里。</translation>
+    </message>
+    <message>
+        <source>Nothing paid yet. An order appears here once it is paid.</source>
+        <translation>还没有已结账订单。结账后订单显示在这里。</translation>
+    </message>
+    <message>
+        <source>New orders appear here.</source>
+        <translation>新订单显示在这里。</translation>
+    </message>
+    <message>
+        <source>No floors yet. An administrator draws them under Management › Floor Plan.</source>
+        <translation>还没有楼层。请管理员在“管理 › 平面图”中绘制。</translation>
+    </message>
+    <message>
+        <source>No order can be edited. Press New Order to take one.</source>
+        <translation>没有可修改的订单。请按“新建订单”点单。</translation>
+    </message>
+    <message>
+        <source>No dishes yet. An administrator writes the menu under Management › Menu.</source>
+        <translation>还没有菜品。请管理员在“管理 › 菜单”中添加。</translation>
+    </message>
+    <message>
+        <source>No dishes in this category yet. An administrator adds them under Management › Menu.</source>
+        <translation>此分类还没有菜品。请管理员在“管理 › 菜单”中添加。</translation>
+    </message>
+    <message>
+        <source>Choose a category, then press Add beside a dish.</source>
+        <translation>请选择分类，然后按菜品旁的“添加”。</translation>
+    </message>
+    <message>
+        <source>No tables yet. An administrator lists them under Management › Table.</source>
+        <translation>还没有餐桌。请管理员在“管理 › 餐桌”中添加。</translation>
+    </message>
+</context>
+<context>
     <name>KitchenOrders</name>
     <message>
         <source>NOTE: </source>

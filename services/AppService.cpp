@@ -9,7 +9,9 @@
 #include "services/database/StoredPaths.h"
 #include "services/SettingsKeys.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 AppService::AppService(QObject *parent)
@@ -66,4 +68,20 @@ bool AppService::hasDatabasePath() const
 QString AppService::localPath(const QString &urlOrPath) const
 {
     return ::localPath(urlOrPath);
+}
+
+QUrl AppService::folderUrl(const QString &path) const
+{
+    if (path.isEmpty()) {
+        return {};
+    }
+    QString folder = QDir::cleanPath(path);
+    while (!QFileInfo(folder).isDir()) {
+        const QString above = QFileInfo(folder).path();
+        if (above == folder) {
+            return {};
+        }
+        folder = above;
+    }
+    return QUrl::fromLocalFile(QFileInfo(folder).absoluteFilePath());
 }

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QUrl>
 
 /// Knows where the database is and what state it is in before anyone logs in. The path is the one
 /// fact kept outside the database, in the platform's settings store.
@@ -42,6 +43,9 @@ public:
 
     /// For the file dialogs of the screens: a URL becomes a local path, any other text is kept.
     Q_INVOKABLE [[nodiscard]] QString localPath(const QString &urlOrPath) const;
+    /// Where a file dialog starts for this file or folder: the nearest folder there is; empty for
+    /// an empty path.
+    Q_INVOKABLE [[nodiscard]] QUrl folderUrl(const QString &path) const;
 
 private:
     QString m_pathKey;

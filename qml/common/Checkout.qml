@@ -145,6 +145,8 @@ Item {
         spacing: 6
 
         ListView {
+            id: bills
+
             Layout.preferredWidth: 360
             Layout.fillHeight: true
             clip: true
@@ -163,6 +165,12 @@ Item {
                 subtitle: modelData.table_name ? qsTr("Table ") + modelData.table_name : modelData.order_type
                 selected: !!root.selectedSession && root.selectedSession.id === modelData.id
                 onClicked: root.selectSession(modelData)
+            }
+
+            EmptyHint {
+                parent: bills
+                visible: bills.count === 0
+                text: qsTranslate("Hints", "No open bills. An order that is placed opens one.")
             }
         }
 
@@ -199,6 +207,8 @@ Item {
             }
 
             ListView {
+                id: paidOrders
+
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 clip: true
@@ -219,6 +229,12 @@ Item {
                     selectedBorder: "#66ddaa"
                     selected: !!root.selectedRecent && root.selectedRecent.id === modelData.id
                     onClicked: root.selectRecent(modelData)
+                }
+
+                EmptyHint {
+                    parent: paidOrders
+                    visible: paidOrders.count === 0
+                    text: qsTranslate("Hints", "Nothing paid yet. An order appears here once it is paid.")
                 }
             }
         }

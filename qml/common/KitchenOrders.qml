@@ -37,6 +37,7 @@ Rectangle {
         property var model: []
         property string actionText
         property string nextState
+        property string emptyText
         // The orders on show, by id.
         property var orders: ({})
 
@@ -114,6 +115,12 @@ Rectangle {
                 actionText: column.actionText
                 onActed: column.act(orderId)
             }
+
+            EmptyHint {
+                parent: cards
+                visible: text !== "" && cards.count === 0
+                text: column.emptyText
+            }
         }
 
         onModelChanged: showOrders()
@@ -129,6 +136,7 @@ Rectangle {
             model: root.pendingOrders
             actionText: qsTr("START")
             nextState: "in_progress"
+            emptyText: qsTranslate("Hints", "New orders appear here.")
         }
 
         KitchenColumn {

@@ -169,6 +169,11 @@ Item {
                             onTableSelected: tableId => root.selectedTableId = tableId
                         }
                     }
+
+                    EmptyHint {
+                        visible: floorTabs.count === 0
+                        text: qsTranslate("Hints", "No floors yet. An administrator draws them under Management › Floor Plan.")
+                    }
                 }
 
                 TableSessionPanel {

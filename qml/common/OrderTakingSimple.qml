@@ -254,6 +254,12 @@ Item {
                             order: modelData
                             onClicked: root.editOrder(order)
                         }
+
+                        EmptyHint {
+                            parent: openOrders
+                            visible: openOrders.count === 0
+                            text: qsTranslate("Hints", "No order can be edited. Press New Order to take one.")
+                        }
                     }
 
                     OrderFigures {

@@ -46,6 +46,12 @@ Item {
                 selected: model.id === MenuService.currentCategoryId
                 onClicked: MenuService.currentCategoryId = model.id
             }
+
+            EmptyHint {
+                parent: list
+                visible: list.count === 0
+                text: qsTranslate("Hints", "No dishes yet. An administrator writes the menu under Management › Menu.")
+            }
         }
     }
 }

@@ -5,11 +5,12 @@ import QtQuick.Layouts
 import zelvan
 
 // A field that takes a decimal number, with a point in every language.
-ThemedField {
+PointField {
+    id: root
+
     Layout.preferredWidth: 90
-    inputMethodHints: Qt.ImhFormattedNumbersOnly
 
     validator: RegularExpressionValidator {
-        regularExpression: /[0-9]*\.?[0-9]*/
+        regularExpression: root.storeWritesComma() ? /[0-9]*[.,]?[0-9]*/ : /[0-9]*\.?[0-9]*/
     }
 }

@@ -65,6 +65,8 @@ Item {
         }
 
         ListView {
+            id: list
+
             Layout.fillWidth: true
             Layout.fillHeight: true
             visible: root.chosen
@@ -90,6 +92,12 @@ Item {
                 addSidePadding: root.addSidePadding
                 addEndPadding: root.addEndPadding
                 onAddRequested: root.addRequested(model.id, model.item, model.price)
+            }
+
+            EmptyHint {
+                parent: list
+                visible: list.count === 0
+                text: qsTranslate("Hints", "No dishes in this category yet. An administrator adds them under Management › Menu.")
             }
         }
 

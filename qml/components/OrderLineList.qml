@@ -27,6 +27,12 @@ ListView {
         id: slideGuard
     }
 
+    EmptyHint {
+        parent: root
+        visible: root.count === 0
+        text: qsTranslate("Hints", "Choose a category, then press Add beside a dish.")
+    }
+
     delegate: OrderLineRow {
         required property var model
 

@@ -25,6 +25,8 @@ ColumnLayout {
     }
 
     GridView {
+        id: grid
+
         Layout.fillWidth: true
         Layout.preferredHeight: 98
         clip: true
@@ -47,6 +49,12 @@ ColumnLayout {
             status: model.status
             selected: model.id === root.selectedTableId
             onClicked: root.tableClicked(model.id)
+        }
+
+        EmptyHint {
+            parent: grid
+            visible: grid.count === 0
+            text: qsTranslate("Hints", "No tables yet. An administrator lists them under Management › Table.")
         }
     }
 }

@@ -80,7 +80,10 @@ SetupFrame {
             rightPadding: 15
             text: qsTr("Browse")
 
-            onClicked: folderDialog.open()
+            onClicked: {
+                folderDialog.currentFolder = AppService.folderUrl(root.selectedPath)
+                folderDialog.open()
+            }
         }
     }
 
@@ -90,7 +93,7 @@ SetupFrame {
         padding: 12
         text: qsTr("Done")
 
-        onClicked: root.setUp()
+        onClicked: Work.start(root.setUp)
     }
 
     SetupStatus {
@@ -102,6 +105,7 @@ SetupFrame {
     FolderDialog {
         id: folderDialog
 
+        objectName: "folderDialog"
         title: qsTr("Select Database Folder")
 
         // The built-in dialog may accept with nothing chosen.

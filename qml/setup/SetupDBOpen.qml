@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
+import QtCore
 import QtQuick.Dialogs
 import QtQuick.Layouts
 import Zelvan.Services 1.0
@@ -14,6 +15,9 @@ SetupFrame {
     property string selectedPath
     property bool running: false
     property string errorText
+    // Where a store's file is or would have been: the saved path, or the place that a new one gets.
+    readonly property string proposedPath: AppService.databasePath()
+        || AppService.localPath(StandardPaths.writableLocation(StandardPaths.DocumentsLocation)) + "/ZelvanPOS/data"
 
     function openSelected(): void {
         root.errorText = ""
@@ -65,7 +69,10 @@ SetupFrame {
             rightPadding: 15
             text: qsTr("Browse")
 
-            onClicked: fileDialog.open()
+            onClicked: {
+                fileDialog.currentFolder = AppService.folderUrl(root.selectedPath || root.proposedPath)
+                fileDialog.open()
+            }
         }
     }
 
@@ -75,7 +82,7 @@ SetupFrame {
         padding: 12
         text: qsTr("Open Database")
 
-        onClicked: root.openSelected()
+        onClicked: Work.start(root.openSelected)
     }
 
     SetupStatus {
@@ -87,6 +94,7 @@ SetupFrame {
     FileDialog {
         id: fileDialog
 
+        objectName: "fileDialog"
         nameFilters: [qsTr("Zelvan Database (*.db)"), qsTr("All Files (*)")]
         title: qsTr("Select Zelvan Database")
 

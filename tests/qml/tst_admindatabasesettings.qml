@@ -38,6 +38,27 @@ ZelvanTestCase {
         compare(page.successMessage, "")
     }
 
+    // Of the dialog that the button opens, as a local path.
+    function startOfDialog(action: string, name: string): string {
+        press(action)
+        const dialog = findChild(page, name)
+        tryVerify(() => dialog.visible)
+        const start = AppService.localPath(dialog.currentFolder)
+        dialog.close()
+        tryVerify(() => !dialog.visible)
+        return start
+    }
+
+    function test_the_dialogs_start_beside_the_database() {
+        const folder = AppService.databasePath().replace(/[/][^/]*$/, "")
+        show("admin/settings/AdminDatabaseSettings")
+
+        compare(startOfDialog("Move Database", "folderDialog"), folder)
+        verify(DatabaseService.backupDatabase())
+
+        compare(startOfDialog("Restore Database", "fileDialog"), folder + "/backups")
+    }
+
     function test_everything_rests_while_the_database_moves() {
         show("admin/settings/AdminDatabaseSettings")
 

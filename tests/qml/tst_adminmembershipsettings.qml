@@ -53,6 +53,55 @@ ZelvanTestCase {
         verify(SettingService.membershipEnabled)
     }
 
+    function test_an_amount_that_is_not_touched_stays_as_it_is_data() {
+        return [
+            { tag: "0.29", cents: 29 }, { tag: "19.99", cents: 1999 }, { tag: "10.00", cents: 1000 },
+            { tag: "0.00", cents: 0 }, { tag: "1.15", cents: 115 }, { tag: "-0.29", cents: -29 },
+            { tag: "21474836.47", cents: 2147483647 }
+        ]
+    }
+
+    function test_an_amount_that_is_not_touched_stays_as_it_is(data) {
+        TestDb.run("UPDATE membership_settings SET enabled = 1, earn_spend = " + data.cents + ", redeem_value = " + data.cents)
+        show("admin/settings/AdminMembershipSettings")
+        compare(field("points = $").text, data.tag)
+        enter("Earn", "3")
+
+        press("Save")
+        press("Save")
+
+        compare(stored(), { enabled: 1, earn_points: 3, earn_spend: data.cents, redeem_points: 100, redeem_value: data.cents, earn_on: "total" })
+    }
+
+    function test_an_amount_typed_anew_is_cut_whatever_stood_there() {
+        TestDb.run("UPDATE membership_settings SET enabled = 1, earn_spend = 1999, redeem_value = 29")
+        show("admin/settings/AdminMembershipSettings")
+        enter("point(s) for every $", "19.99")
+
+        press("Save")
+
+        compare([stored().earn_spend, stored().redeem_value], [1998, 29])
+    }
+
+    function test_a_typed_comma_becomes_a_point_where_the_store_writes_one() {
+        SettingService.saveRegionalSettings({ locale: "de_DE", currency_code: "EUR" })
+        open()
+
+        enter("points = €", "1,5,7")
+
+        compare(field("points = €").text, "1.57")
+        press("Save")
+        compare(stored().redeem_value, 157)
+    }
+
+    function test_a_comma_does_not_enter_where_the_store_writes_a_point() {
+        open()
+
+        enter("points = $", "1,5")
+
+        compare(field("points = $").text, "15")
+    }
+
     function test_empty_fields_are_stored_as_zero() {
         open()
         for (const label of ["Earn", "point(s) for every $", "Redemption", "points = $"])
@@ -61,6 +110,16 @@ ZelvanTestCase {
         press("Save")
 
         compare(stored(), { enabled: 1, earn_points: 0, earn_spend: 0, redeem_points: 0, redeem_value: 0, earn_on: "total" })
+    }
+
+    function test_numbers_out_of_range_end_at_the_highest() {
+        open()
+        for (const label of ["Earn", "point(s) for every $", "Redemption", "points = $"])
+            enter(label, "99999999999")
+
+        press("Save")
+
+        compare(stored(), { enabled: 1, earn_points: 2147483647, earn_spend: 2147483647, redeem_points: 2147483647, redeem_value: 2147483647, earn_on: "total" })
     }
 
     function test_letters_do_not_enter_the_numbers() {

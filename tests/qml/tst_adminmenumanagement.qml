@@ -30,6 +30,38 @@ ZelvanTestCase {
         verify(!hasButton("Add Menu Item"))
     }
 
+    function test_a_typed_comma_becomes_a_point_where_the_store_writes_one() {
+        SettingService.saveRegionalSettings({ locale: "de_DE", currency_code: "EUR" })
+        addItem("Tea", food, 2)
+        openFood()
+        enter("Item name", "Soup")
+        enter("Price", "12,345")
+        compare(field("Price").text, "12.345")
+        press("Add Menu Item")
+
+        press("Edit", 0)
+        const edited = allShown(item => item.placeholderText === "Price")[0]
+        edited.forceActiveFocus()
+        edited.selectAll()
+        for (const character of "3,5")
+            keyClick(character)
+        compare(edited.text, "3.5")
+        press("Save")
+
+        compare(storedItems().map(item => item.price), [350, 1235])
+    }
+
+    function test_a_comma_stays_where_the_store_writes_a_point() {
+        openFood()
+        enter("Item name", "Soup")
+
+        enter("Price", "12,345")
+
+        compare(field("Price").text, "12,345")
+        press("Add Menu Item")
+        compare(storedItems()[0].price, 1200)
+    }
+
     function test_a_row_shows_price_and_portion() {
         addItem("Soup", food, 5.5)
         addItem("Tea", food, 2, "Large")

@@ -128,7 +128,9 @@ ZelvanTestCase {
             { tag: "8.25", stored: 825, shown: "8.25" }, { tag: "7.125", stored: 713, shown: "7.13" },
             { tag: "8.25%", stored: 825, shown: "8.25" }, { tag: "8,25", stored: 800, shown: "8.00" },
             { tag: "100", stored: 10000, shown: "100.00" }, { tag: "abc", stored: 0, shown: "0.00" },
-            { tag: "-5", stored: -500, shown: "-5.00" }
+            { tag: "-5", stored: -500, shown: "-5.00" },
+            { tag: "99999999", stored: 2147483647, shown: "21474836.47" },
+            { tag: "-99999999999999", stored: -2147483648, shown: "-21474836.48" }
         ]
     }
 
@@ -144,6 +146,18 @@ ZelvanTestCase {
         compare(tax(), { enabled: 1, rate: data.stored, name: "GST", registration_number: "R-1" })
         page.load()
         compare(field("Tax Rate (%)").text, data.shown)
+    }
+
+    function test_a_typed_comma_becomes_a_point_where_the_store_writes_one() {
+        SettingService.saveRegionalSettings({ locale: "fr_FR", currency_code: "EUR" })
+        show("admin/settings/AdminTaxSettings")
+        mouseClick(toggle("Enable Tax"))
+
+        enter("Tax Rate (%)", "7,125")
+
+        compare(field("Tax Rate (%)").text, "7.125")
+        press("Save")
+        compare(tax().rate, 713)
     }
 
     function test_a_tax_without_a_rate_is_left_alone_without_a_word_data() {

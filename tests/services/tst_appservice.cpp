@@ -32,6 +32,7 @@ private slots:
     void theStateIsLookedUpAfresh();
     void theWorkingConnectionIsLeftAlone();
     void aDialogsUrlBecomesALocalPath();
+    void aDialogStartsInTheNearestFolder();
 
 private:
     QString storeWith(const QString &usersSql);
@@ -219,6 +220,20 @@ void tst_AppService::aDialogsUrlBecomesALocalPath()
 #ifndef Q_OS_WIN
     QCOMPARE(m_app.localPath("file:///home/my%20data"), QStringLiteral("/home/my data"));
 #endif
+}
+
+void tst_AppService::aDialogStartsInTheNearestFolder()
+{
+    const QString data = inFolder("ZelvanPOS/d\u00e9p\u00f4t #1 50%");
+    QVERIFY(QDir().mkpath(data));
+    DatabaseFiles::makeStore(data + "/Zelvan.db", "store");
+
+    QCOMPARE(m_app.folderUrl(data).toLocalFile(), data);
+    QCOMPARE(m_app.folderUrl(data + "/Zelvan.db").toLocalFile(), data);
+    QCOMPARE(m_app.folderUrl(data + "/backups").toLocalFile(), data);
+    QCOMPARE(m_app.folderUrl(data + "/gone/backups/").toLocalFile(), data);
+    QCOMPARE(m_app.folderUrl(QDir::rootPath() + "nowhere/at/all").toLocalFile(), QDir::rootPath());
+    QCOMPARE(m_app.folderUrl(""), QUrl());
 }
 
 ZELVAN_TEST(tst_AppService)

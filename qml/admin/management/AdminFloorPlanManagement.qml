@@ -165,6 +165,8 @@ Item {
                         spacing: 10
 
                         Repeater {
+                            id: floorTabs
+
                             model: FloorPlanService.floorModel
 
                             FloorTab {}
@@ -199,6 +201,12 @@ Item {
                     }
                 }
             }
+        }
+
+        EmptyHint {
+            Layout.fillWidth: true
+            visible: floorTabs.count === 0
+            text: qsTranslate("Hints", "No floors yet. Press + New Floor to draw the first one.")
         }
 
         FloorCanvas {

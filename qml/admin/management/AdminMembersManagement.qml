@@ -28,6 +28,8 @@ Rectangle {
         }
 
         ThemedField {
+            id: searchField
+
             Layout.fillWidth: true
             placeholderText: qsTr("Search phone number")
             onTextChanged: MemberService.searchMembers(text)
@@ -57,6 +59,8 @@ Rectangle {
         }
 
         ListView {
+            id: members
+
             Layout.fillWidth: true
             Layout.fillHeight: true
             clip: true
@@ -78,6 +82,14 @@ Rectangle {
                     memberDialog.memberId = model.id
                     memberDialog.open()
                 }
+            }
+
+            EmptyHint {
+                parent: members
+                visible: members.count === 0
+                text: searchField.text === ""
+                      ? qsTranslate("Hints", "No members yet. A phone number typed under Checkout becomes a member with the payment.")
+                      : qsTranslate("Hints", "No member has this number.")
             }
         }
     }

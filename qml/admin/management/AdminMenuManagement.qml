@@ -140,6 +140,12 @@ Rectangle {
 
                     onDeleteRequested: (itemId, name) => root.confirmItemDeletion(itemId, name)
                 }
+
+                EmptyHint {
+                    parent: itemList
+                    visible: itemList.count === 0
+                    text: qsTranslate("Hints", "No dishes in this category yet. Type a name and a price below, then press Add Menu Item.")
+                }
             }
 
             MenuItemForm {

@@ -73,6 +73,8 @@ Rectangle {
         }
 
         EditableList {
+            id: list
+
             Layout.fillHeight: true
             Layout.fillWidth: true
             model: TableService.tableModel
@@ -88,6 +90,12 @@ Rectangle {
                 tableId: model.id
 
                 onDeleteRequested: (tableId, name) => root.confirmDeletion(tableId, name)
+            }
+
+            EmptyHint {
+                parent: list
+                visible: list.count === 0
+                text: qsTranslate("Hints", "No tables yet. Type a name below, then press Add Table.")
             }
         }
 

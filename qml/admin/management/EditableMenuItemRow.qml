@@ -112,11 +112,10 @@ Rectangle {
             visible: !root.isEditing
         }
 
-        ThemedField {
+        PointField {
             Layout.preferredHeight: 36
             Layout.preferredWidth: 90
             horizontalAlignment: TextInput.AlignRight
-            inputMethodHints: Qt.ImhFormattedNumbersOnly
             padding: 6
             placeholderText: qsTranslate("AdminMenuManagement", "Price")
             text: root.editedPrice

@@ -87,6 +87,8 @@ ModalFrame {
                 }
 
                 ListView {
+                    id: transactions
+
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     clip: true
@@ -108,6 +110,12 @@ ModalFrame {
                         points: (model.type === "redeem" ? "-" : "+") + model.points
                         source: model.orderDisplayNumber > 0 ? "#" + model.orderDisplayNumber : qsTranslate("AdminMembersManagement", "Manual")
                         createdAt: model.createdAt
+                    }
+
+                    EmptyHint {
+                        parent: transactions
+                        visible: transactions.count === 0
+                        text: qsTranslate("Hints", "No points earned or redeemed yet.")
                     }
                 }
             }

@@ -47,6 +47,12 @@ ColumnLayout {
 
             onMenuRequested: contextMenu.openFor(model.index, model.id, model.name)
         }
+
+        EmptyHint {
+            parent: list
+            visible: list.count === 0
+            text: qsTranslate("Hints", "No categories yet. Type a name below, then press Add Category.")
+        }
     }
 
     ColumnLayout {

@@ -38,14 +38,13 @@ ColumnLayout {
             placeholderText: qsTranslate("AdminMenuManagement", "Item name")
         }
 
-        ThemedField {
+        PointField {
             id: priceField
 
             Layout.fillWidth: true
             Layout.maximumWidth: 200
             Layout.minimumWidth: 80
             Layout.preferredWidth: 200
-            inputMethodHints: Qt.ImhFormattedNumbersOnly
             placeholderText: qsTranslate("AdminMenuManagement", "Price")
         }
 

@@ -18,10 +18,18 @@ ScrollPage {
     property string successMessage
     property bool moveInProgress: false
     readonly property string currentDatabasePath: AppService.databasePath()
+    readonly property string databaseFolder: currentDatabasePath.replace(/[\/\\][^\/\\]*$/, "")
 
     function clearMessages(): void {
         root.errorMessage = ""
         root.successMessage = ""
+    }
+
+    function startBackup(): void {
+        if (backupRest.running)
+            return
+        Work.start(root.backup)
+        backupRest.restart()
     }
 
     function backup(): void {
@@ -122,7 +130,7 @@ ScrollPage {
                 fillColor: "#4faba1"
                 text: qsTr("Backup Database")
 
-                onClicked: root.backup()
+                onClicked: root.startBackup()
             }
 
             ActionButton {
@@ -132,6 +140,7 @@ ScrollPage {
 
                 onClicked: {
                     root.clearMessages()
+                    fileDialog.currentFolder = AppService.folderUrl(root.databaseFolder + "/backups")
                     fileDialog.open()
                 }
             }
@@ -144,14 +153,23 @@ ScrollPage {
 
             onClicked: {
                 root.clearMessages()
+                folderDialog.currentFolder = AppService.folderUrl(root.databaseFolder)
                 folderDialog.open()
             }
         }
     }
 
+    // A backup is named after its second, and a second one in it would fail.
+    Timer {
+        id: backupRest
+
+        interval: 1000
+    }
+
     FileDialog {
         id: fileDialog
 
+        objectName: "fileDialog"
         nameFilters: ["Database Files (*.db *.sqlite *.sqlite3)", "All Files (*)"]
         title: qsTr("Select Restore Database File")
 
@@ -161,6 +179,7 @@ ScrollPage {
     FolderDialog {
         id: folderDialog
 
+        objectName: "folderDialog"
         title: qsTr("Select New Database Location")
 
         onAccepted: root.chooseFolder(selectedFolder)

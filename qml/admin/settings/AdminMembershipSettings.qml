@@ -22,9 +22,9 @@ SettingsPage {
         root.settingsId = settings.id
         enabledSwitch.checked = settings.enabled
         earnPointsField.text = settings.earn_points
-        earnSpendField.text = settings.earn_spend.toFixed(2)
+        earnSpendField.show(settings.earn_spend)
         redeemPointsField.text = settings.redeem_points
-        redeemValueField.text = settings.redeem_value.toFixed(2)
+        redeemValueField.show(settings.redeem_value)
         earnOnBox.selectValue(settings.earn_on || "total")
     }
 
@@ -33,9 +33,9 @@ SettingsPage {
             id: root.settingsId,
             enabled: enabledSwitch.checked,
             earn_points: parseInt(earnPointsField.text) || 0,
-            earn_spend: parseFloat(earnSpendField.text) || 0,
+            earn_spend: earnSpendField.amount(),
             redeem_points: parseInt(redeemPointsField.text) || 0,
-            redeem_value: parseFloat(redeemValueField.text) || 0,
+            redeem_value: redeemValueField.amount(),
             earn_on: earnOnBox.chosenValue
         })
         if (!saved)
@@ -75,7 +75,7 @@ SettingsPage {
                 text: qsTr("point(s) for every %1").arg(root.currencySymbol)
             }
 
-            DecimalField {
+            AmountField {
                 id: earnSpendField
 
                 label: earnSpendLabel.text
@@ -123,7 +123,7 @@ SettingsPage {
                 text: qsTr("points = %1").arg(root.currencySymbol)
             }
 
-            DecimalField {
+            AmountField {
                 id: redeemValueField
 
                 label: redeemValueLabel.text

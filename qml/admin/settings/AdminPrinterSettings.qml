@@ -57,6 +57,13 @@ ScrollPage {
             onClicked: printerDialog.openForNew()
         }
 
+        EmptyHint {
+            Layout.fillWidth: true
+            horizontalAlignment: Text.AlignLeft
+            visible: root.printers.length === 0
+            text: qsTranslate("Hints", "No printers yet. Press + Add Printer to choose one.")
+        }
+
         ListView {
             Layout.fillWidth: true
             Layout.preferredHeight: contentHeight

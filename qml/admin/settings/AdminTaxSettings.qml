@@ -22,10 +22,10 @@ SettingsPage {
         numberField.text = settings.registration_number
     }
 
-    // The rate scaled by 100, rounded to the nearest; 0 for a text that is no number. It is cut to 32
-    // bits, so that no typed number is outside of what the store can hold.
-    function scaledRate(): int {
-        return Math.round(parseFloat(rateField.text) * 100) | 0
+    // The rate scaled by 100, rounded to the nearest. The service takes no number for 0, and one that
+    // is too large for the highest there is.
+    function scaledRate(): real {
+        return Math.round(parseFloat(rateField.text) * 100)
     }
 
     function save(): void {
@@ -72,11 +72,10 @@ SettingsPage {
             label: qsTr("Tax Rate (%)")
             visible: enabledSwitch.checked
 
-            ThemedField {
+            PointField {
                 id: rateField
 
                 Layout.preferredWidth: 150
-                inputMethodHints: Qt.ImhFormattedNumbersOnly
                 label: qsTr("Tax Rate (%)")
             }
         }
