@@ -63,11 +63,6 @@ Rectangle {
                 ids.remove(model.length, ids.count - model.length)
         }
 
-        function act(orderId: int) {
-            if (!slideGuard.running)
-                KitchenOrderService.markState(orderId, column.nextState)
-        }
-
         Layout.fillWidth: true
         Layout.fillHeight: true
         Layout.preferredWidth: 1
@@ -113,7 +108,8 @@ Rectangle {
                 order: column.orders[orderId] ?? { items: [] }
                 noteTitle: qsTr("NOTE: ")
                 actionText: column.actionText
-                onActed: column.act(orderId)
+                resting: slideGuard.running
+                onActed: KitchenOrderService.markState(orderId, column.nextState)
             }
 
             EmptyHint {

@@ -12,6 +12,8 @@ Rectangle {
     required property var order
     required property string noteTitle
     required property string actionText
+    // The button takes no press for a moment, and looks as ever.
+    property bool resting: false
 
     signal acted
 
@@ -83,6 +85,8 @@ Rectangle {
         PrimaryButton {
             Layout.fillWidth: true
             Layout.preferredHeight: 38
+            dimmed: false
+            enabled: !root.resting
             text: root.actionText
             onClicked: root.acted()
         }

@@ -199,11 +199,10 @@ ScreenTestCase {
         pressTwice(data.tag)
 
         compare([first, second, third].map(statusOf), [data.to, data.from, data.from])
-        tryVerify(() => {
-            press(data.tag)
-            return statusOf(second) === data.to
-        })
-        compare(statusOf(third), data.from)
+        verify(!button(data.tag).enabled)
+        tryVerify(() => button(data.tag).enabled)
+        press(data.tag)
+        compare([first, second, third].map(statusOf), [data.to, data.to, data.from])
     }
 
     function test_a_card_that_another_till_moved_protects_the_next_one() {
