@@ -26,6 +26,18 @@ ScreenTestCase {
         verify(!button("Done").enabled)
     }
 
+    function test_the_dialog_starts_in_what_exists_of_the_proposed_folder() {
+        screen("setup/SetupDBCreation")
+        page.selectedPath = AppService.databasePath().replace(/[/][^/]*$/, "/ZelvanPOS/data")
+
+        press("Browse")
+
+        const dialog = findChild(page, "folderDialog")
+        tryVerify(() => dialog.visible)
+        compare(AppService.localPath(dialog.currentFolder), AppService.databasePath().replace(/[/][^/]*$/, ""))
+        dialog.close()
+    }
+
     function test_back_leaves_the_screen() {
         screen("setup/SetupDBChoice")
         press("Create New Database")

@@ -23,6 +23,17 @@ ScreenTestCase {
         verify(button("Open Database").enabled)
     }
 
+    function test_the_dialog_starts_where_the_store_is_or_was() {
+        screen("setup/SetupDBOpen")
+
+        press("Browse")
+
+        const dialog = findChild(page, "fileDialog")
+        tryVerify(() => dialog.visible)
+        compare(AppService.localPath(dialog.currentFolder), AppService.databasePath().replace(/[/][^/]*$/, ""))
+        dialog.close()
+    }
+
     function test_a_file_that_is_no_database_of_ours_is_refused() {
         const before = AppService.databasePath()
         ignoreWarning(/Database file does not exist\./)
