@@ -10,7 +10,8 @@ ThemedField {
     id: root
 
     function storeWritesComma(): bool {
-        return Qt.locale(SettingService.getRegionalSettings().locale ?? "").decimalPoint === ","
+        const settings = SettingService.getRegionalSettings()
+        return Qt.locale(settings.locale ?? "").decimalPoint === "," // qmllint disable type
     }
 
     inputMethodHints: Qt.ImhFormattedNumbersOnly

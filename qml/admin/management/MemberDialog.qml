@@ -28,7 +28,8 @@ ModalFrame {
         Layout.preferredWidth: 120
     }
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 8
 
         PlainLabel {
