@@ -4,6 +4,7 @@
 
 #include "core/SystemTheme.h"
 #include "core/Theme.h"
+#include "core/Typing.h"
 #include "services/AppService.h"
 
 #include <QQmlEngine>
@@ -65,6 +66,8 @@ void Services::connectSignals()
 void Services::publish(SystemTheme &systemTheme, Theme &theme)
 {
     qmlRegisterSingletonInstance("zelvan.System", 1, 0, "SystemTheme", &systemTheme);
+    qmlRegisterSingletonType<Typing>("zelvan.System", 1, 0, "Typing",
+                                     [](QQmlEngine *, QJSEngine *) { return new Typing; });
     qmlRegisterSingletonInstance("zelvan.Theme", 1, 0, "Theme", &theme);
 
     const char *const module = "Zelvan.Services";

@@ -20,6 +20,8 @@ FocusScope {
     function logIn(): void {
         if (!AuthService.login(usernameField.text, passwordField.text)) {
             errorLabel.text = qsTr("Invalid username or password.")
+            passwordField.input.forceActiveFocus(Qt.OtherFocusReason)
+            passwordField.input.selectAll()
             return
         }
         errorLabel.text = ""
@@ -74,6 +76,7 @@ FocusScope {
                 PrimaryButton {
                     Layout.fillWidth: true
                     Layout.topMargin: 15
+                    focusPolicy: Qt.NoFocus
                     padding: 15
                     text: qsTr("Login")
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
+import QtQuick.Controls
 import QtQuick.Layouts
 import zelvan
 import zelvan.Theme 1.0
@@ -24,6 +25,8 @@ ModalFrame {
             root.confirmCallback(confirmed) // qmllint disable type
     }
 
+    // By its buttons alone, which take no focus: a deletion is never a slip of the keys.
+    closePolicy: Popup.NoAutoClose
     width: 360
     height: 180
 
@@ -59,6 +62,7 @@ ModalFrame {
 
             FilledButton {
                 fillColor: Theme.surface
+                focusPolicy: Qt.NoFocus
                 font.bold: false
                 text: qsTr("Cancel")
                 textColor: Theme.text
@@ -68,6 +72,7 @@ ModalFrame {
 
             DangerButton {
                 fillColor: "#e53935"
+                focusPolicy: Qt.NoFocus
                 // Whatever the title says, this component confirms a deletion.
                 text: qsTr("Delete")
 

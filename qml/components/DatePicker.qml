@@ -79,7 +79,11 @@ Item {
             text: Qt.formatDate(root.selectedDate, "dd MMM yyyy")
 
             Accessible.name: root.label
-            onPressed: root.open()
+            // Taken at a press, the focus would be kept from the calendar.
+            activeFocusOnPress: false
+            onReleased: root.open()
+            Keys.onReturnPressed: root.open()
+            Keys.onSpacePressed: root.open()
         }
 
         Button {

@@ -7,6 +7,7 @@ import zelvan
 RowLayout {
     id: root
 
+    property alias acceptButton: acceptButton
     property alias acceptText: acceptButton.text
     property alias cancelText: cancelButton.text
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
+import zelvan
 import zelvan.Theme 1.0
 
-// A flat button of one colour: the look of nearly every action. Takes neither hover nor focus.
-Button {
+// A flat button of one colour: the look of nearly every action.
+PlainButton {
     id: control
 
     property color fillColor: Theme.surface
@@ -13,14 +13,10 @@ Button {
     property color textColor: "white"
     property color borderColor: "transparent"
     property int borderWidth: 1
-    property int radius: 4
     // A button that shows its being disabled by its colours is not dimmed on top.
     property bool dimmed: !enabled
 
-    focusPolicy: Qt.NoFocus
     font.bold: true
-    font.pixelSize: Theme.fontNormal
-    hoverEnabled: false
     padding: 8
 
     contentItem: Text {

@@ -22,6 +22,7 @@ ModalFrame {
         root.close()
     }
 
+    mainButton: buttons.acceptButton
     width: 360
     height: 260
 
@@ -39,7 +40,6 @@ ModalFrame {
             Layout.fillWidth: true
             label: root.label
             placeholderText: root.placeholder
-            input.onAccepted: root.confirm()
         }
 
         Item {
@@ -47,6 +47,8 @@ ModalFrame {
         }
 
         DialogButtons {
+            id: buttons
+
             Layout.fillWidth: true
             acceptText: root.confirmText
             cancelText: root.cancelText

@@ -63,6 +63,8 @@ RowLayout {
         Layout.preferredWidth: Math.max(60, implicitWidth)
         enabled: root.available
         dimmed: false
+        focusPolicy: Qt.NoFocus
+        minimumHeight: root.addEndPadding === 5 ? 0 : 40
         text: root.addText
         Accessible.description: root.name
         fillColor: root.available ? Theme.primary() : Theme.secondaryText

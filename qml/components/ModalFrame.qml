@@ -3,17 +3,29 @@
 import QtQuick
 import QtQuick.Controls
 import zelvan.Theme 1.0
+import "Fields.js" as Fields
 
 // The frame of a modal dialog in the middle of the window. It takes the keys, which would otherwise
-// go to the page behind it.
+// go to the page behind it: Escape closes it, Return leads through its fields to its main button.
 Popup {
+    id: root
+
+    property Item mainButton: null
+
     anchors.centerIn: Overlay.overlay
-    closePolicy: Popup.NoAutoClose
+    closePolicy: Popup.CloseOnEscape
     focus: true
     modal: true
     padding: 20
     parent: Overlay.overlay
 
+    contentItem: FocusScope {
+        focus: true
+        implicitHeight: children[0]?.implicitHeight ?? 0 // qmllint disable missing-property
+        implicitWidth: children[0]?.implicitWidth ?? 0 // qmllint disable missing-property
+
+        Keys.onPressed: event => Fields.goOn(event, root.contentItem, root.mainButton)
+    }
     background: Rectangle {
         border.color: Theme.border
         border.width: 1

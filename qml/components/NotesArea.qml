@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Controls
+import zelvan.System 1.0
 import zelvan.Theme 1.0
 
 // A few lines of text to type in, in the theme's colours. `label` is its name for a screen reader.
@@ -28,6 +29,7 @@ ScrollView {
         textFormat: TextEdit.PlainText
         wrapMode: TextArea.Wrap
         background: null
+        onActiveFocusChanged: if (!activeFocus) Typing.commit(area)
         Accessible.name: root.label
     }
 }

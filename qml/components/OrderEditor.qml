@@ -137,6 +137,7 @@ Rectangle {
                         title: qsTr("Current Order")
                         currencySymbol: root.currencySymbol
                         rowHeight: 64
+                        buttonPolicy: Qt.NoFocus
                         removeText: qsTr("Remove")
                     }
 
@@ -159,6 +160,7 @@ Rectangle {
 
                     PrimaryButton {
                         Layout.fillWidth: true
+                        focusPolicy: Qt.NoFocus
                         padding: 15
                         enabled: orderModel.count > 0
                         text: root.currentOrderId >= 0 ? qsTr("Update Order") : qsTr("Place Order")

@@ -26,6 +26,7 @@ Rectangle {
         spacing: 12
 
         FilledButton {
+            focusPolicy: Qt.NoFocus
             text: root.backText
             radius: 6
             fillColor: Theme.background

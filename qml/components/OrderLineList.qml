@@ -14,6 +14,8 @@ ListView {
     required property int rowHeight
     required property string removeText
     property string remarkPlaceholder
+    // Qt.NoFocus where the buttons of the screen leave the focus where it is.
+    property int buttonPolicy: Qt.StrongFocus
 
     clip: true
     // Far rows stay made, so that a remark typed into one is still shown there.
@@ -42,6 +44,7 @@ ListView {
         price: root.currencySymbol + model.price.toFixed(2)
         quantity: model.qty
         removeText: root.removeText
+        buttonPolicy: root.buttonPolicy
         remarkPlaceholder: root.remarkPlaceholder
         onStepped: quantity => root.lines.setProperty(model.index, "qty", quantity)
         onRemarkEdited: remark => root.lines.setProperty(model.index, "notes", remark)

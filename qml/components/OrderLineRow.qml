@@ -15,6 +15,7 @@ Rectangle {
     required property int quantity
     required property string removeText
     property string remarkPlaceholder
+    property int buttonPolicy: Qt.StrongFocus
 
     signal stepped(int quantity)
     signal remarkEdited(string remark)
@@ -50,6 +51,7 @@ Rectangle {
         }
 
         QuantityStepper {
+            buttonPolicy: root.buttonPolicy
             quantity: root.quantity
             label: root.name
             onStepped: quantity => root.stepped(quantity)
@@ -65,6 +67,7 @@ Rectangle {
         }
 
         FilledButton {
+            focusPolicy: root.buttonPolicy
             text: root.removeText
             fillColor: "#ff4d4d"
             Accessible.description: root.name

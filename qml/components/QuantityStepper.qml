@@ -13,6 +13,7 @@ RowLayout {
     required property int quantity
     // The line's name, for a screen reader.
     required property string label
+    property int buttonPolicy: Qt.StrongFocus
 
     signal stepped(int quantity)
 
@@ -22,6 +23,7 @@ RowLayout {
         Layout.preferredWidth: 28
         Layout.preferredHeight: 28
         enabled: root.quantity > 1
+        focusPolicy: root.buttonPolicy
         padding: 0
         text: "-"
         fillColor: Theme.background
@@ -40,6 +42,7 @@ RowLayout {
     FilledButton {
         Layout.preferredWidth: 28
         Layout.preferredHeight: 28
+        focusPolicy: root.buttonPolicy
         padding: 0
         text: "+"
         fillColor: Theme.background

@@ -21,6 +21,7 @@ ModalFrame {
         SetupService.restartApp()
     }
 
+    mainButton: replaceButton
     padding: 24
     width: 420
 
@@ -94,6 +95,8 @@ ModalFrame {
             }
 
             DangerButton {
+                id: replaceButton
+
                 Layout.fillWidth: true
                 Layout.preferredHeight: 42
                 enabled: confirmation.text === "REPLACE"

@@ -9,6 +9,7 @@ FilledButton {
     font.bold: false
     font.pixelSize: Theme.fontSmall
     leftPadding: 15
+    minimumHeight: 0
     rightPadding: 15
     topPadding: 5
 }

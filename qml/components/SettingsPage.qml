@@ -18,6 +18,7 @@ ScrollPage {
             id: saveButton
 
             fillColor: Theme.primary()
+            focusPolicy: Qt.NoFocus
 
             onClicked: Work.start(root.saveRequested)
         },

@@ -1,20 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
+import zelvan
 import zelvan.Theme 1.0
 
 // A large choice: a bold title over a line that explains it.
-Button {
+PlainButton {
     id: control
 
     property string subtitle
 
     Accessible.description: subtitle
-    font.pixelSize: Theme.fontNormal
-    hoverEnabled: false
     implicitHeight: 90
+    radius: 6
 
     contentItem: ColumnLayout {
         spacing: 4

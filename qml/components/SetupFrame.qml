@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import zelvan
 import zelvan.Theme 1.0
@@ -14,8 +13,12 @@ Item {
     property alias column: column
     property string backText
     property bool backEnabled: true
+    // Where the keys go at first.
+    property Item startItem: null
 
     signal backRequested()
+
+    onActiveFocusChanged: if (activeFocus) startItem?.forceActiveFocus(Qt.TabFocusReason)
 
     Rectangle {
         anchors.fill: parent
@@ -30,26 +33,13 @@ Item {
         width: 450
     }
 
-    Button {
-        id: backButton
-
+    QuietButton {
         anchors.left: parent.left
         anchors.margins: 16
         anchors.top: parent.top
         enabled: root.backEnabled
-        flat: true
-        font.pixelSize: Theme.fontNormal
-        hoverEnabled: false
         text: root.backText
         visible: root.backText !== ""
-
-        contentItem: Text {
-            color: Theme.secondaryText
-            font: backButton.font
-            opacity: backButton.enabled ? 1 : 0.5
-            text: backButton.text
-            textFormat: Text.PlainText
-        }
 
         onClicked: root.backRequested()
     }

@@ -15,6 +15,7 @@ Rectangle {
     property list<string> disabledKeys
     property color restColor: Theme.background
     property int buttonRadius: 0
+    property int buttonPolicy: Qt.NoFocus
     property string fontFamily: Qt.application.font.family // qmllint disable type
 
     signal selectionChanged(int index)
@@ -41,6 +42,7 @@ Rectangle {
                 Layout.fillWidth: true
                 Layout.preferredHeight: 50
                 enabled: !root.disabledKeys.includes(modelData.key)
+                focusPolicy: root.buttonPolicy
                 font.family: root.fontFamily
                 radius: root.buttonRadius
                 restColor: root.restColor

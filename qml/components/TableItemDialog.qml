@@ -23,6 +23,7 @@ ModalFrame {
 
     signal confirmed(string label, int seats, string tableType)
 
+    mainButton: buttons.acceptButton
     width: 360
     height: 320
 
@@ -79,6 +80,8 @@ ModalFrame {
         }
 
         DialogButtons {
+            id: buttons
+
             Layout.fillWidth: true
             acceptText: root.confirmText
             cancelText: root.cancelText

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Controls
+import zelvan.System 1.0
 import zelvan.Theme 1.0
 
 // A line of text to type in, in the theme's colours. `label` is its name for a screen reader.
@@ -23,8 +24,10 @@ TextField {
 
     background: Rectangle {
         border.color: control.activeFocus ? Theme.primary() : Theme.border
-        border.width: 1
+        border.width: control.activeFocus ? 2 : 1
         color: control.fillColor
         radius: 4
     }
+
+    onActiveFocusChanged: if (!activeFocus) Typing.commit(control)
 }

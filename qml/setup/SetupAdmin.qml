@@ -5,6 +5,7 @@ import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
 import zelvan.Theme 1.0
+import "../components/Fields.js" as Fields
 
 // Creates the first administrator and logs in as that user.
 Item {
@@ -41,6 +42,9 @@ Item {
             stackView.push("SetupBetaWelcome.qml") // qmllint disable unqualified
         }
     }
+
+    Keys.onPressed: event => Fields.goOn(event, root, registerButton)
+    onActiveFocusChanged: if (activeFocus) usernameField.input.forceActiveFocus()
 
     Rectangle {
         anchors.fill: parent
@@ -97,6 +101,8 @@ Item {
                 }
 
                 PrimaryButton {
+                    id: registerButton
+
                     Layout.fillWidth: true
                     padding: 12
                     text: qsTr("Register")

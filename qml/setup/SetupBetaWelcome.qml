@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
 import zelvan.Theme 1.0
+import "../components/Fields.js" as Fields
 
 // The end of the setup: offers news by mail, and goes on to the program either way.
 SetupFrame {
@@ -33,6 +33,9 @@ SetupFrame {
 
     column.spacing: 18
     column.width: 420
+    startItem: nameField.input
+
+    Keys.onPressed: event => Fields.goOn(event, root, continueButton)
 
     PlainLabel {
         Layout.fillWidth: true
@@ -64,6 +67,8 @@ SetupFrame {
     }
 
     PrimaryButton {
+        id: continueButton
+
         Layout.fillWidth: true
         enabled: !root.submitting
         padding: 12
@@ -72,24 +77,12 @@ SetupFrame {
         onClicked: Work.start(root.submit)
     }
 
-    Button {
-        id: skipButton
-
+    QuietButton {
         Layout.alignment: Qt.AlignHCenter
         enabled: !root.submitting
-        flat: true
         font.pixelSize: Theme.fontSmall
         font.underline: true
-        hoverEnabled: false
         text: qsTr("Skip for now")
-
-        contentItem: Text {
-            color: Theme.secondaryText
-            font: skipButton.font
-            opacity: skipButton.enabled ? 1 : 0.5
-            text: skipButton.text
-            textFormat: Text.PlainText
-        }
 
         onClicked: Work.start(root.goOn)
     }

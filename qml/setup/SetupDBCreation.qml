@@ -44,6 +44,7 @@ SetupFrame {
 
     backEnabled: !running
     backText: qsTr("Back")
+    startItem: doneButton
 
     PlainLabel {
         Layout.fillWidth: true
@@ -88,6 +89,8 @@ SetupFrame {
     }
 
     PrimaryButton {
+        id: doneButton
+
         Layout.fillWidth: true
         enabled: root.selectedPath !== "" && !root.running
         padding: 12

@@ -32,6 +32,7 @@ SetupFrame {
 
     backEnabled: !running
     backText: qsTr("Back")
+    startItem: browseButton
 
     PlainLabel {
         Layout.fillWidth: true
@@ -62,6 +63,8 @@ SetupFrame {
         }
 
         FilledButton {
+            id: browseButton
+
             Layout.preferredHeight: 40
             fillColor: "#6c8cff"
             leftPadding: 15

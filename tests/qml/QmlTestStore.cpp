@@ -7,6 +7,8 @@
 #include "support/TestDatabase.h"
 
 #include <QDirIterator>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -79,6 +81,12 @@ QString QmlTestStore::lastPrintedDocument() const
 void QmlTestStore::expectCritical(const QString &pattern) const
 {
     QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(pattern));
+}
+
+void QmlTestStore::compose(const QString &text) const
+{
+    QInputMethodEvent event(text, {});
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
 }
 
 QStringList QmlTestStore::documents() const

@@ -39,6 +39,9 @@ public:
     /// Announces a line of the level "critical", as ignoreWarning() does one of "warning".
     Q_INVOKABLE void expectCritical(const QString &pattern) const;
 
+    /// Gives the field in focus a text that an input method is still composing.
+    Q_INVOKABLE void compose(const QString &text) const;
+
     /// Every document of the screens, as the resource's path.
     Q_INVOKABLE [[nodiscard]] QStringList documents() const;
 

@@ -183,6 +183,7 @@ Rectangle {
 
             RowButton {
                 Accessible.description: root.item
+                focusPolicy: Qt.NoFocus
                 fillColor: Theme.primary()
                 text: root.isEditing ? qsTranslate("AdminMenuManagement", "Save")
                                      : qsTranslate("AdminMenuManagement", "Edit")
@@ -192,6 +193,7 @@ Rectangle {
 
             RowButton {
                 Accessible.description: root.item
+                focusPolicy: Qt.NoFocus
                 fillColor: "red"
                 text: qsTranslate("AdminMenuManagement", "Delete")
 

@@ -27,6 +27,7 @@ ModalFrame {
         confirmationField.text = ""
     }
 
+    mainButton: buttons.acceptButton
     width: 460
     height: 450
 
@@ -73,14 +74,13 @@ ModalFrame {
         }
 
         DialogButtons {
+            id: buttons
+
             acceptText: qsTranslate("AdminUserManagement", "Create")
             cancelText: qsTranslate("AdminUserManagement", "Cancel")
 
             onAccepted: root.create()
-            onCancelled: {
-                root.close()
-                root.clearFields()
-            }
+            onCancelled: root.close()
         }
     }
 
@@ -95,5 +95,7 @@ ModalFrame {
         target: UserService
     }
 
+    // Escape counts as "Cancel".
+    onAboutToHide: root.clearFields()
     onAboutToShow: usernameField.input.forceActiveFocus()
 }

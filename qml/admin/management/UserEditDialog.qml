@@ -16,6 +16,7 @@ ModalFrame {
         root.open()
     }
 
+    mainButton: buttons.acceptButton
     width: 320
     height: 300
 
@@ -44,6 +45,8 @@ ModalFrame {
         }
 
         DialogButtons {
+            id: buttons
+
             acceptText: qsTranslate("AdminUserManagement", "Save")
             cancelText: qsTranslate("AdminUserManagement", "Cancel")
 

@@ -21,6 +21,7 @@ ModalFrame {
         confirmationField.text = ""
     }
 
+    mainButton: buttons.acceptButton
     width: 360
     height: 380
 
@@ -54,6 +55,8 @@ ModalFrame {
         }
 
         DialogButtons {
+            id: buttons
+
             acceptText: qsTranslate("AdminUserManagement", "Change Password")
             cancelText: qsTranslate("AdminUserManagement", "Cancel")
 

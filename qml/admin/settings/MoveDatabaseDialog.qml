@@ -14,6 +14,7 @@ ModalFrame {
 
     signal accepted()
 
+    mainButton: buttons.acceptButton
     width: 650
     height: 360
 
@@ -59,6 +60,8 @@ ModalFrame {
         }
 
         DialogButtons {
+            id: buttons
+
             acceptText: qsTranslate("AdminDatabaseSettings", "Move Database")
             cancelText: qsTranslate("AdminDatabaseSettings", "Cancel")
 
@@ -69,4 +72,6 @@ ModalFrame {
             onCancelled: root.close()
         }
     }
+
+    onAboutToShow: buttons.acceptButton.forceActiveFocus(Qt.TabFocusReason)
 }

@@ -77,6 +77,7 @@ ModalFrame {
         printerRoot.saved()
     }
 
+    mainButton: saveButton
     width: 400
     height: 500
 
@@ -195,6 +196,8 @@ ModalFrame {
             }
 
             PrimaryButton {
+                id: saveButton
+
                 Layout.fillWidth: true
                 text: printerRoot.isEditMode ? qsTranslate("AdminPrinterSettings", "Save Changes")
                                              : qsTranslate("AdminPrinterSettings", "Add Printer")

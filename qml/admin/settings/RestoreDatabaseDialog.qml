@@ -13,6 +13,7 @@ ModalFrame {
 
     signal accepted()
 
+    mainButton: buttons.acceptButton
     width: 650
     height: 300
 
@@ -48,6 +49,8 @@ ModalFrame {
         }
 
         DialogButtons {
+            id: buttons
+
             acceptText: qsTranslate("AdminDatabaseSettings", "Restore")
             cancelText: qsTranslate("AdminDatabaseSettings", "Cancel")
 
@@ -58,4 +61,6 @@ ModalFrame {
             onCancelled: root.close()
         }
     }
+
+    onAboutToShow: buttons.acceptButton.forceActiveFocus(Qt.TabFocusReason)
 }

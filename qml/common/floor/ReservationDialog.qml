@@ -44,8 +44,6 @@ ModalFrame {
     }
 
     function confirm() {
-        // The buttons take no focus, so a duration that is still being typed is taken over here.
-        durationBox.focus = false
         const day = datePicker.selectedDate
         const data = {
             customerName: nameField.text,
@@ -63,6 +61,7 @@ ModalFrame {
             close()
     }
 
+    mainButton: confirmButton
     width: 580
     height: 520
 
@@ -189,6 +188,8 @@ ModalFrame {
             }
 
             PrimaryButton {
+                id: confirmButton
+
                 text: root.confirmText
                 onClicked: Work.start(root.confirm)
             }
