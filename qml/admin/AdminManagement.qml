@@ -13,6 +13,8 @@ Rectangle {
     // One entry a row of the sidebar.
     readonly property var pages: [menuPage, tablePage, membersPage, userPage]
 
+    readonly property Item startItem: pageLoader
+
     function loadPage(index: int): void {
         // Which of the two pages keeps the tables is decided at each load.
         const floorPlan = index === 1 && SettingService.tableLayoutMode === "floor_plan"

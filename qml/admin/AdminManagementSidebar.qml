@@ -11,6 +11,7 @@ Sidebar {
     buttonRadius: 4
     color: Theme.background
     fontFamily: "Arial"
+    modifier: "Alt"
     restColor: Theme.surface
 
     Component.onCompleted: {

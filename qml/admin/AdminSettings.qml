@@ -14,6 +14,8 @@ Rectangle {
         storePage, tablePage, printerPage, taxPage, membershipPage, kitchenPage, regionalPage, databasePage
     ]
 
+    readonly property Item startItem: pageLoader
+
     function loadPage(index: int): void {
         pageLoader.show(root.pages[index])
     }

@@ -8,6 +8,7 @@ Sidebar {
 
     buttonRadius: 4
     fontFamily: "Arial"
+    modifier: "Alt"
     rows: [
         { key: "restaurant", text: qsTr("Restaurant") },
         { key: "tables", text: qsTr("Tables") },

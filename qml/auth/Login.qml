@@ -74,6 +74,8 @@ FocusScope {
                 }
 
                 PrimaryButton {
+                    id: loginButton
+
                     Layout.fillWidth: true
                     Layout.topMargin: 15
                     focusPolicy: Qt.NoFocus
@@ -93,5 +95,11 @@ FocusScope {
                 }
             }
         }
+    }
+
+    // Return alone does nothing here.
+    PressKeys {
+        button: loginButton
+        sequences: ["Ctrl+Return", "Ctrl+Enter"]
     }
 }

@@ -14,6 +14,7 @@ Item {
     property int memberId: 0
     property int currentPoints: 0
     property bool membershipChecked: false
+    readonly property Item startItem: bills
     property bool membershipEnabled: SettingService.membershipEnabled
     property int earnedPointsPreview: 0
     property int redeemPointsRequested: 0
@@ -144,13 +145,11 @@ Item {
         anchors.fill: parent
         spacing: 6
 
-        ListView {
+        KeyList {
             id: bills
 
             Layout.preferredWidth: 360
             Layout.fillHeight: true
-            clip: true
-            reuseItems: true
             spacing: 10
             model: root.activeSessions
 
@@ -206,13 +205,11 @@ Item {
                 font.bold: true
             }
 
-            ListView {
+            KeyList {
                 id: paidOrders
 
                 Layout.fillWidth: true
                 Layout.fillHeight: true
-                clip: true
-                reuseItems: true
                 spacing: 10
                 model: root.recentOrders
 

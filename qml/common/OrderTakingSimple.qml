@@ -112,6 +112,11 @@ Item {
         onClicked: root.changeOrderType(value)
     }
 
+    PressKeys {
+        button: sendButton
+        sequences: ["Ctrl+Return", "Ctrl+Enter"]
+    }
+
     ListModel {
         id: orderModel
 
@@ -233,14 +238,12 @@ Item {
                         remarkPlaceholder: qsTr("Add a remark")
                     }
 
-                    ListView {
+                    KeyList {
                         id: openOrders
 
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                         visible: root.showEditOrdersList
-                        clip: true
-                        reuseItems: true
                         spacing: 2
                         model: root.editOrdersList
 
@@ -279,6 +282,8 @@ Item {
                     // An order without a type passes, which is meant: it is stored with none and no
                     // table.
                     PrimaryButton {
+                        id: sendButton
+
                         Layout.fillWidth: true
                         Layout.topMargin: 15
                         visible: !root.showEditOrdersList

@@ -25,13 +25,11 @@ Item {
             font.bold: true
         }
 
-        ListView {
+        KeyList {
             id: list
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            clip: true
-            reuseItems: true
             spacing: root.rowSpacing
             model: MenuService.categoryModel
 

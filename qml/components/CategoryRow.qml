@@ -19,6 +19,7 @@ Rectangle {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: text
+    Accessible.selectable: true
     Accessible.selected: selected
     Accessible.onPressAction: root.clicked()
 

@@ -61,6 +61,8 @@ ModalFrame {
             Layout.alignment: Qt.AlignRight
 
             FilledButton {
+                id: cancelButton
+
                 fillColor: Theme.surface
                 focusPolicy: Qt.NoFocus
                 font.bold: false
@@ -71,12 +73,24 @@ ModalFrame {
             }
 
             DangerButton {
+                id: deleteButton
+
                 fillColor: "#e53935"
                 focusPolicy: Qt.NoFocus
                 // Whatever the title says, this component confirms a deletion.
                 text: qsTr("Delete")
 
                 onClicked: root.finish(true)
+            }
+
+            PressKeys {
+                button: cancelButton
+                sequences: ["Ctrl+Backspace"]
+            }
+
+            PressKeys {
+                button: deleteButton
+                sequences: ["Ctrl+Return", "Ctrl+Enter"]
             }
         }
     }

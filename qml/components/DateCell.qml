@@ -30,6 +30,8 @@ Rectangle {
 
     Accessible.role: Accessible.Button
     Accessible.name: Qt.formatDate(day, "dd MMM yyyy")
+    Accessible.selectable: true
+    Accessible.selected: selected
     Accessible.onPressAction: if (root.pickable) root.picked()
 
     PlainLabel {

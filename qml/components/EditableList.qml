@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
+import zelvan
 
 // A list whose rows are edited in place. Every change fills its model anew, which would lead back to
 // the top and end the editing of every row: the list returns to where it was, and each row is told
 // to pool() what is typed in it before it goes.
-ListView {
+KeyList {
     id: root
 
     function poolRows(): void {
@@ -19,8 +20,13 @@ ListView {
         root.returnToBounds()
     }
 
-    clip: true
-    reuseItems: true
+    act: "act"
+
+    Keys.onDeletePressed: event => root.actOnRow(event, "askToDelete")
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_F2)
+            root.actOnRow(event, "startEditing")
+    }
 
     Connections {
         function onModelAboutToBeReset(): void {

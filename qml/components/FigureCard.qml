@@ -19,7 +19,7 @@ Rectangle {
     border.color: Theme.border
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: caption + " " + figure
+    Accessible.name: [caption, figure, note].filter(text => text !== "").join(" ")
 
     Column {
         anchors.left: parent.left

@@ -46,7 +46,7 @@ Rectangle {
                 width: ListView.view.width
 
                 Accessible.role: Accessible.ListItem
-                Accessible.name: row.modelData.text
+                Accessible.name: row.modelData.text + " " + row.modelData.figure
 
                 PlainLabel {
                     Layout.fillWidth: true

@@ -17,12 +17,20 @@ Rectangle {
 
     signal acted
 
+    // All that the card shows below its number.
+    function spoken(): string {
+        const lines = root.order.items.map(line => [line.item_name, line.portion_size, "x" + line.quantity, line.notes])
+        const head = [(root.order.order_type ?? "").toUpperCase(), root.order.table_name]
+        return head.concat(...lines, [root.order.notes]).filter(text => !!text).join(", ")
+    }
+
     implicitHeight: content.implicitHeight + 24
     radius: 6
     color: Theme.surface
 
     Accessible.role: Accessible.ListItem
     Accessible.name: "#" + order.display_number
+    Accessible.description: spoken()
 
     ColumnLayout {
         id: content
@@ -88,6 +96,7 @@ Rectangle {
             dimmed: false
             enabled: !root.resting
             text: root.actionText
+            Accessible.description: "#" + root.order.display_number
             onClicked: root.acted()
         }
     }

@@ -21,6 +21,7 @@ Rectangle {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: phoneNumber
+    Accessible.description: totalPoints + ", " + status
     Accessible.onPressAction: root.clicked()
 
     RowLayout {

@@ -18,6 +18,7 @@ Rectangle {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: kind + " " + points
+    Accessible.description: source + ", " + createdAt
 
     RowLayout {
         anchors.fill: parent

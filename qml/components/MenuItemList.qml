@@ -64,16 +64,15 @@ Item {
             }
         }
 
-        ListView {
+        KeyList {
             id: list
 
             Layout.fillWidth: true
             Layout.fillHeight: true
             visible: root.chosen
-            clip: true
-            reuseItems: true
             spacing: 4
             model: MenuService.menuItemModel
+            act: "add"
 
             Accessible.role: Accessible.List
             Accessible.name: root.title

@@ -21,10 +21,16 @@ RowLayout {
 
     signal addRequested
 
+    function add(): void {
+        if (root.available)
+            root.addRequested()
+    }
+
     spacing: 8
 
     Accessible.role: Accessible.ListItem
     Accessible.name: name
+    Accessible.description: [available ? "" : unavailableText, price, portion].filter(text => text !== "").join(", ")
 
     ColumnLayout {
         Layout.fillWidth: true

@@ -18,6 +18,7 @@ Rectangle {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: title.text
+    Accessible.description: [status.text, table.visible ? table.text : ""].filter(text => text !== "").join(", ")
     Accessible.onPressAction: root.clicked()
 
     Column {
@@ -32,11 +33,15 @@ Rectangle {
         }
 
         PlainLabel {
+            id: status
+
             text: "Status: " + root.order.status
             font.pixelSize: Theme.fontSmall
         }
 
         PlainLabel {
+            id: table
+
             width: parent.width
             visible: !!root.order.table_name
             text: "Table: " + root.order.table_name

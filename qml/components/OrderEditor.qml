@@ -66,6 +66,11 @@ Rectangle {
     implicitHeight: 600
     color: Theme.background
 
+    PressKeys {
+        button: sendButton
+        sequences: ["Ctrl+Return", "Ctrl+Enter"]
+    }
+
     ListModel {
         id: orderModel
 
@@ -159,6 +164,8 @@ Rectangle {
                     }
 
                     PrimaryButton {
+                        id: sendButton
+
                         Layout.fillWidth: true
                         focusPolicy: Qt.NoFocus
                         padding: 15

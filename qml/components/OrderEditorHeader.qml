@@ -26,6 +26,8 @@ Rectangle {
         spacing: 12
 
         FilledButton {
+            id: backButton
+
             focusPolicy: Qt.NoFocus
             text: root.backText
             radius: 6
@@ -50,5 +52,10 @@ Rectangle {
                 font.pixelSize: Theme.fontSmall
             }
         }
+    }
+
+    PressKeys {
+        button: backButton
+        sequences: ["Ctrl+Backspace"]
     }
 }

@@ -26,6 +26,7 @@ Rectangle {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: name
+    Accessible.description: quantity + " × " + price
 
     RowLayout {
         anchors.fill: parent

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
+import "Fields.js" as Fields
 
-// The page of a shell. Showing the page on show builds it anew, and no page leaves it as it is.
+// The page of a shell. Showing the page on show builds it anew, and no page leaves it as it is. The
+// keys go to the page: to its `startItem`, or to the first field that can be typed in.
 Loader {
     id: root
 
@@ -11,5 +13,14 @@ Loader {
             return
         root.sourceComponent = null
         root.sourceComponent = page
+        // A page of a shell that is just being pushed is not visible yet.
+        Qt.callLater(root.takeFocus)
+    }
+
+    function takeFocus(): void {
+        if (!root.item)
+            return
+        const start = root.item.startItem ?? Fields.typed(root.item)[0] ?? root // qmllint disable missing-property
+        start.forceActiveFocus(Qt.OtherFocusReason)
     }
 }

@@ -51,6 +51,8 @@ Button {
 
     // The text as it stands: newer Qt would take its "&" for a mark and leave it out.
     Accessible.name: text
+    Accessible.checkable: checkable
+    Accessible.checked: checked
     Keys.onEnterPressed: event => control.pressByKey(event)
     Keys.onReturnPressed: event => control.pressByKey(event)
 

@@ -25,6 +25,7 @@ Rectangle {
     Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.description: subtitle
+    Accessible.selectable: true
     Accessible.selected: selected
     Accessible.onPressAction: root.clicked()
 

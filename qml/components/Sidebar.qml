@@ -15,6 +15,8 @@ Rectangle {
     property list<string> disabledKeys
     property color restColor: Theme.background
     property int buttonRadius: 0
+    // With the number of a row, this key presses it.
+    property string modifier: "Ctrl"
     property int buttonPolicy: Qt.NoFocus
     property string fontFamily: Qt.application.font.family // qmllint disable type
 
@@ -36,6 +38,8 @@ Rectangle {
             model: root.rows
 
             SidebarButton {
+                id: button
+
                 required property int index
                 required property var modelData
 
@@ -50,6 +54,11 @@ Rectangle {
                 text: modelData.text
 
                 onClicked: root.select(index)
+
+                PressKeys {
+                    button: button
+                    sequences: [root.modifier + "+" + (button.index + 1)]
+                }
             }
         }
 

@@ -11,6 +11,8 @@ PlainButton {
     property bool selected: false
     property color restColor: Theme.background
 
+    Accessible.selectable: true
+    Accessible.selected: selected
     font.bold: selected
     minimumHeight: 50
     radius: 0

@@ -34,6 +34,15 @@ ColumnLayout {
         cellHeight: 48
         reuseItems: true
         model: TableService.tableModel
+        activeFocusOnTab: true
+        highlightMoveDuration: 0
+        highlight: RowRing {
+            view: grid
+        }
+
+        Keys.onEnterPressed: currentItem?.clicked()
+        Keys.onReturnPressed: currentItem?.clicked()
+        Keys.onSpacePressed: currentItem?.clicked()
 
         Accessible.role: Accessible.List
         Accessible.name: root.title

@@ -24,12 +24,13 @@ ModalFrame {
     signal confirmed(string label, int seats, string tableType)
 
     mainButton: buttons.acceptButton
+    padding: 16
     width: 360
     height: 320
 
     ColumnLayout {
         anchors.fill: parent
-        spacing: 6
+        spacing: 3
 
         PageHeading {
             text: root.title
@@ -43,8 +44,6 @@ ModalFrame {
             id: labelField
 
             Layout.fillWidth: true
-            Layout.preferredHeight: 34
-            padding: 6
             label: root.labelTitle
             placeholderText: root.labelPlaceholder
             text: root.startLabel
@@ -54,16 +53,14 @@ ModalFrame {
             text: root.seatsTitle
         }
 
-        SpinBox {
+        ThemedSpinBox {
             id: seatsBox
 
             Layout.fillWidth: true
-            Layout.preferredHeight: 34
             from: 1
             to: 20
             value: 4
-            Accessible.name: root.seatsTitle
-            font.pixelSize: Theme.fontNormal
+            label: root.seatsTitle
         }
 
         PlainLabel {
@@ -74,7 +71,6 @@ ModalFrame {
             id: typeBox
 
             Layout.fillWidth: true
-            Layout.preferredHeight: 34
             label: root.typeTitle
             model: root.types
         }

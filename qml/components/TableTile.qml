@@ -21,6 +21,7 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: name
     Accessible.description: status
+    Accessible.selectable: true
     Accessible.selected: selected
     Accessible.onPressAction: root.clicked()
 

@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Controls
+import zelvan
 import zelvan.Theme 1.0
 
 // A box to check, whose frame can be seen in light and dark mode.
 CheckBox {
     id: control
+
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
 
     font.pixelSize: Theme.fontNormal
 
@@ -30,5 +35,11 @@ CheckBox {
             textFormat: Text.PlainText
             visible: control.checked
         }
+    }
+
+    FocusRing {
+        anchors.fill: parent
+        radius: 3
+        visible: control.visualFocus
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Controls
+import zelvan
 import zelvan.Theme 1.0
 
 // A choice of entries `{ text, value }`. `label` is its name for a screen reader.
@@ -21,10 +22,17 @@ ComboBox {
     }
 
     Accessible.name: label
+    Accessible.description: displayText
     displayText: currentIndex < 0 ? givenValue ?? "" : currentText
     font.pixelSize: Theme.fontNormal
     implicitHeight: 40
     popup.font.pixelSize: Theme.fontNormal
     textRole: "text"
     valueRole: "value"
+
+    FocusRing {
+        anchors.fill: parent
+        radius: 3
+        visible: control.visualFocus
+    }
 }

@@ -13,6 +13,8 @@ TextField {
     property color fillColor: Theme.background
 
     Accessible.name: label
+    Accessible.editable: !readOnly
+    Accessible.readOnly: readOnly
     color: Theme.text
     font.pixelSize: Theme.fontNormal
     implicitHeight: 40

@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Controls
+import zelvan
 import zelvan.Theme 1.0
 
 // One of several to choose from, whose ring can be seen in light and dark mode.
 RadioButton {
     id: control
+
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
 
     font.pixelSize: Theme.fontNormal
 
@@ -28,5 +33,11 @@ RadioButton {
             visible: control.checked
             width: 8
         }
+    }
+
+    FocusRing {
+        anchors.fill: parent
+        radius: 3
+        visible: control.visualFocus
     }
 }

@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Controls
+import zelvan
 import zelvan.Theme 1.0
 
 // An on-off switch that can be told apart in light and dark mode.
 Switch {
     id: control
+
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
 
     focusPolicy: Qt.TabFocus
     hoverEnabled: false
@@ -29,5 +34,11 @@ Switch {
             radius: 8
             width: 16
         }
+    }
+
+    FocusRing {
+        anchors.fill: parent
+        radius: 3
+        visible: control.visualFocus
     }
 }

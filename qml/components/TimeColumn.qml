@@ -11,7 +11,12 @@ Tumbler {
 
     property int first: 0
     property int step: 1
+    // Its name for a screen reader.
+    property string label
 
+    // Heard and reached through what lies over it: the column has no role of its own to be given.
+    Accessible.ignored: true
+    activeFocusOnTab: false
     wrap: false
     visibleItemCount: 5
 
@@ -20,6 +25,34 @@ Tumbler {
         radius: 6
         border.width: 1
         border.color: Theme.border
+    }
+
+    Item {
+        id: speaker
+
+        readonly property int value: root.first + root.currentIndex * root.step
+
+        function turn(steps: int): void {
+            root.currentIndex = Math.max(0, Math.min(root.count - 1, root.currentIndex + steps))
+        }
+
+        anchors.fill: parent
+        activeFocusOnTab: true
+
+        Accessible.role: Accessible.SpinBox
+        Accessible.name: root.label
+        Accessible.description: String(value).padStart(2, "0")
+        Accessible.focusable: true
+        Accessible.onDecreaseAction: turn(-1)
+        Accessible.onIncreaseAction: turn(1)
+        Keys.onDownPressed: turn(1)
+        Keys.onUpPressed: turn(-1)
+
+        FocusRing {
+            anchors.fill: parent
+            radius: 6
+            visible: speaker.activeFocus
+        }
     }
 
     delegate: PlainLabel {

@@ -53,7 +53,7 @@ Item {
             height: root.height
             model: root.totalHours
             first: root.startHour
-            Accessible.name: "Hour"
+            label: "Hour"
             onCurrentIndexChanged: root.report()
         }
 
@@ -74,7 +74,7 @@ Item {
             height: root.height
             model: root.stepsAnHour
             step: root.minuteStep
-            Accessible.name: "Minute"
+            label: "Minute"
             onCurrentIndexChanged: root.report()
         }
     }

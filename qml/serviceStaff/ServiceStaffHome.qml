@@ -11,8 +11,17 @@ RowLayout {
     // One entry a row of the sidebar; an index outside the list leaves the page as it is.
     readonly property var pages: [orderTaking, checkout, kitchen]
 
+    property int shownIndex: -1
+
     function loadPage(index: int) {
+        shownIndex = index
         page.show(root.pages[index])
+    }
+
+    // Choosing the order page once more leaves it as it is: an order may be half keyed in there.
+    function choosePage(index: int) {
+        if (index > 0 || index !== shownIndex)
+            loadPage(index)
     }
 
     spacing: 0
@@ -22,7 +31,7 @@ RowLayout {
 
         Layout.preferredWidth: 150
         Layout.fillHeight: true
-        onSelectionChanged: index => root.loadPage(index)
+        onSelectionChanged: index => root.choosePage(index)
     }
 
     PageLoader {

@@ -6,14 +6,48 @@
 #include "support/RecordingSpooler.h"
 #include "support/TestDatabase.h"
 
+#include <QAccessible>
 #include <QDirIterator>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QMetaEnum>
 #include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QTest>
+#include <QWindow>
+
+namespace {
+
+void addAccessible(QAccessibleInterface *node, int depth, QVariantList &found)
+{
+    if (!node || node->state().invisible)
+        return;
+    const QAccessible::State state = node->state();
+    const auto role = QMetaEnum::fromType<QAccessible::Role>().valueToKey(node->role());
+    found.append(QVariantMap{
+        {QStringLiteral("role"), QString::fromLatin1(role)},
+        {QStringLiteral("name"), node->text(QAccessible::Name)},
+        {QStringLiteral("description"), node->text(QAccessible::Description)},
+        {QStringLiteral("value"), node->text(QAccessible::Value)},
+        {QStringLiteral("depth"), depth},
+        {QStringLiteral("focusable"), bool(state.focusable)},
+        {QStringLiteral("focused"), bool(state.focused)},
+        {QStringLiteral("checkable"), bool(state.checkable)},
+        {QStringLiteral("checked"), bool(state.checked)},
+        {QStringLiteral("selectable"), bool(state.selectable)},
+        {QStringLiteral("selected"), bool(state.selected)},
+        {QStringLiteral("disabled"), bool(state.disabled)},
+        {QStringLiteral("editable"), bool(state.editable)},
+        {QStringLiteral("password"), bool(state.passwordEdit)},
+        {QStringLiteral("item"), QVariant::fromValue(node->object())},
+    });
+    for (int child = 0; child < node->childCount(); ++child)
+        addAccessible(node->child(child), depth + 1, found);
+}
+
+} // namespace
 
 QmlTestStore::QmlTestStore(TestDatabase &file, Services &services, RecordingSpooler &spooler,
                            QObject *parent)
@@ -87,6 +121,22 @@ void QmlTestStore::compose(const QString &text) const
 {
     QInputMethodEvent event(text, {});
     QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+}
+
+void QmlTestStore::startScreenReader() const
+{
+    QAccessible::setActive(true);
+}
+
+QVariantList QmlTestStore::accessibleTree() const
+{
+    QVariantList found;
+    const auto windows = QGuiApplication::allWindows();
+    for (QWindow *window : windows) {
+        if (window->isVisible())
+            addAccessible(QAccessible::queryAccessibleInterface(window), 0, found);
+    }
+    return found;
 }
 
 QStringList QmlTestStore::documents() const

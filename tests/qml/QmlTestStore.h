@@ -42,6 +42,12 @@ public:
     /// Gives the field in focus a text that an input method is still composing.
     Q_INVOKABLE void compose(const QString &text) const;
 
+    /// Has the screens made from now on speak to a screen reader.
+    Q_INVOKABLE void startScreenReader() const;
+    /// What a screen reader finds in the windows, parents before children: maps with `role`,
+    /// `name`, `description`, `value`, `depth`, the states as booleans, and the `item` itself.
+    Q_INVOKABLE [[nodiscard]] QVariantList accessibleTree() const;
+
     /// Every document of the screens, as the resource's path.
     Q_INVOKABLE [[nodiscard]] QStringList documents() const;
 

@@ -16,6 +16,7 @@ ZelvanTestCase {
     function screen(path: string, properties: var): var {
         appWindow.maximizedTimes = 0
         stackView.clear(StackView.Immediate)
+        stackView.forceActiveFocus()
         page = stackView.push("qrc:/qt/qml/zelvan/qml/" + path + ".qml", properties || {}, StackView.Immediate)
         waitForRendering(page)
         return page

@@ -58,13 +58,11 @@ Rectangle {
             }
         }
 
-        ListView {
+        KeyList {
             id: members
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            clip: true
-            reuseItems: true
             spacing: 4
             model: MemberService.membersModel
 

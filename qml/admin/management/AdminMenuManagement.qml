@@ -12,6 +12,7 @@ Rectangle {
 
     property string currencySymbol: SettingService.currencySymbol()
     readonly property bool categorySelected: MenuService.currentCategoryId !== -1
+    readonly property Item startItem: categorySelected ? itemForm.startItem : categoryPane.startItem
 
     function confirmDeletion(title: string, message: string, remove: var): void {
         confirmationDialog.title = title
@@ -42,6 +43,8 @@ Rectangle {
         spacing: 0
 
         MenuCategoryPane {
+            id: categoryPane
+
             Layout.fillHeight: true
             Layout.margins: 16
             Layout.maximumWidth: 220
@@ -149,6 +152,8 @@ Rectangle {
             }
 
             MenuItemForm {
+                id: itemForm
+
                 Layout.fillWidth: true
                 visible: root.categorySelected
             }

@@ -6,10 +6,13 @@ import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
 import zelvan.Theme 1.0
+import "../../components/Fields.js" as Fields
 
 // The tables of a store without a floor plan.
 Rectangle {
     id: root
+
+    readonly property Item startItem: newTableField
 
     function confirmDeletion(tableId: int, name: string): void {
         // Nothing looks at whether the table is occupied: its session lives on without a table.
@@ -29,6 +32,7 @@ Rectangle {
             return
         newTableField.clear()
         newCapacityBox.value = 4
+        newTableField.forceActiveFocus()
     }
 
     width: 800
@@ -100,7 +104,11 @@ Rectangle {
         }
 
         ColumnLayout {
+            id: form
+
             spacing: 8
+
+            Keys.onPressed: event => Fields.goOn(event, form, addButton)
 
             RowLayout {
                 spacing: 8
@@ -112,18 +120,18 @@ Rectangle {
                     placeholderText: qsTr("Table name")
                 }
 
-                SpinBox {
+                ThemedSpinBox {
                     id: newCapacityBox
 
-                    Layout.preferredHeight: 40
                     Layout.preferredWidth: 80
-                    Accessible.name: qsTr("Capacity")
-                    font.pixelSize: Theme.fontNormal
+                    label: qsTr("Capacity")
                     value: 6
                 }
             }
 
             PrimaryButton {
+                id: addButton
+
                 Layout.fillWidth: true
                 Layout.topMargin: 15
                 padding: 15

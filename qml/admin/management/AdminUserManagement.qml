@@ -94,6 +94,7 @@ Item {
                 width: ListView.view.width
                 height: 44
                 Accessible.name: row.username
+                Accessible.description: row.role + ", " + (row.active ? qsTr("Yes") : qsTr("No"))
                 Accessible.role: Accessible.ListItem
                 color: Theme.surface
                 radius: 4
@@ -134,6 +135,7 @@ Item {
                             visible: row.active
 
                             RowButton {
+                                minimumHeight: 40
                                 leftPadding: 10
                                 rightPadding: 10
                                 fillColor: Theme.primary()
@@ -143,6 +145,7 @@ Item {
                             }
 
                             RowButton {
+                                minimumHeight: 40
                                 leftPadding: 10
                                 rightPadding: 10
                                 fillColor: Theme.surface
@@ -157,6 +160,7 @@ Item {
                             }
 
                             RowButton {
+                                minimumHeight: 40
                                 leftPadding: 10
                                 rightPadding: 10
                                 fillColor: "red"

@@ -17,6 +17,7 @@ Rectangle {
     readonly property bool selected: root.categoryId === MenuService.currentCategoryId
 
     signal menuRequested
+    signal deleteRequested(int categoryId, string name)
 
     function startEditing(): void {
         root.originalCategory = root.name
@@ -58,9 +59,18 @@ Rectangle {
         MenuService.currentCategoryId = root.categoryId
     }
 
+    function act(): void {
+        root.select()
+    }
+
+    function askToDelete(): void {
+        root.deleteRequested(root.categoryId, root.name)
+    }
+
     height: 44
     Accessible.name: root.name
     Accessible.role: Accessible.ListItem
+    Accessible.selectable: true
     Accessible.selected: root.selected
     color: root.selected ? Theme.primary() : Theme.background
     radius: 4

@@ -5,6 +5,7 @@ import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
 import zelvan.Theme 1.0
+import "../../components/Fields.js" as Fields
 
 // One item of the menu, edited in place.
 Rectangle {
@@ -34,6 +35,11 @@ Rectangle {
         root.editedAvailable = root.available
         root.editedTaxable = root.taxable
         root.isEditing = true
+        nameField.forceActiveFocus()
+    }
+
+    function cancel(): void {
+        root.isEditing = false
     }
 
     function save(): void {
@@ -55,6 +61,14 @@ Rectangle {
             root.isEditing = true
     }
 
+    function act(): void {
+        root.startEditing()
+    }
+
+    function askToDelete(): void {
+        root.deleteRequested(root.itemId, root.item)
+    }
+
     function pool(): void {
         if (root.isEditing)
             root.drafts.put(root.itemId, [root.editedName, root.editedPrice, root.editedPortion,
@@ -72,10 +86,20 @@ Rectangle {
 
     height: 44
     Accessible.name: root.item
+    Accessible.description: root.currencySymbol + root.price.toFixed(2) + ", " + (root.portion || "-")
     Accessible.role: Accessible.ListItem
     border.color: Theme.surface
     color: Theme.background
     radius: 4
+
+    Keys.onEscapePressed: event => {
+        event.accepted = root.isEditing
+        root.cancel()
+    }
+    Keys.onPressed: event => {
+        if (root.isEditing)
+            Fields.goOn(event, root, saveButton)
+    }
 
     RowLayout {
         anchors.fill: parent
@@ -93,8 +117,10 @@ Rectangle {
         }
 
         ThemedField {
+            id: nameField
+
             Layout.fillWidth: true
-            Layout.preferredHeight: 36
+            Layout.preferredHeight: 40
             Layout.minimumWidth: 80
             Layout.preferredWidth: 200
             padding: 6
@@ -113,7 +139,7 @@ Rectangle {
         }
 
         PointField {
-            Layout.preferredHeight: 36
+            Layout.preferredHeight: 40
             Layout.preferredWidth: 90
             horizontalAlignment: TextInput.AlignRight
             padding: 6
@@ -135,7 +161,7 @@ Rectangle {
         }
 
         ThemedField {
-            Layout.preferredHeight: 36
+            Layout.preferredHeight: 40
             Layout.fillWidth: true
             Layout.maximumWidth: 120
             Layout.minimumWidth: 50
@@ -182,6 +208,8 @@ Rectangle {
             }
 
             RowButton {
+                id: saveButton
+
                 Accessible.description: root.item
                 focusPolicy: Qt.NoFocus
                 fillColor: Theme.primary()

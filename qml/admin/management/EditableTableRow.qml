@@ -28,6 +28,7 @@ Rectangle {
         // A capacity above 20 does not survive the editing; that is meant.
         root.editedCapacity = Math.max(capacityBox.from, Math.min(root.originalCapacity, capacityBox.to))
         root.isEditing = true
+        nameField.forceActiveFocus()
     }
 
     function commitEdit(): void {
@@ -42,6 +43,20 @@ Rectangle {
         root.editedName = root.originalName
         root.editedCapacity = root.originalCapacity
         root.isEditing = false
+    }
+
+    function hearKey(event: var, act: var): void {
+        event.accepted = root.isEditing
+        if (root.isEditing)
+            act()
+    }
+
+    function act(): void {
+        root.startEditing()
+    }
+
+    function askToDelete(): void {
+        root.deleteRequested(root.tableId, root.name)
     }
 
     function pool(): void {
@@ -60,10 +75,16 @@ Rectangle {
 
     height: 44
     Accessible.name: root.name
+    Accessible.description: root.capacity
     Accessible.role: Accessible.ListItem
     border.color: Theme.surface
     color: Theme.background
     radius: 4
+
+    // In the name as in the capacity: Return saves, Escape leaves the row as it was.
+    Keys.onEnterPressed: event => root.hearKey(event, root.commitEdit)
+    Keys.onEscapePressed: event => root.hearKey(event, root.cancelEdit)
+    Keys.onReturnPressed: event => root.hearKey(event, root.commitEdit)
 
     RowLayout {
         anchors.fill: parent
@@ -80,8 +101,9 @@ Rectangle {
         }
 
         ThemedField {
+            id: nameField
+
             Layout.fillWidth: true
-            Layout.preferredHeight: 36
             Layout.preferredWidth: 0
             fillColor: activeFocus ? Theme.surface : Theme.background
             label: qsTranslate("AdminTableManagement", "Table Name")
@@ -89,8 +111,6 @@ Rectangle {
             text: root.editedName
             visible: root.isEditing
 
-            Keys.onEscapePressed: root.cancelEdit()
-            onAccepted: root.commitEdit()
             onTextEdited: root.editedName = text
         }
 
@@ -101,12 +121,11 @@ Rectangle {
             visible: !root.isEditing
         }
 
-        SpinBox {
+        ThemedSpinBox {
             id: capacityBox
 
             Layout.preferredWidth: 80
-            Accessible.name: qsTranslate("AdminTableManagement", "Capacity")
-            font.pixelSize: Theme.fontNormal
+            label: qsTranslate("AdminTableManagement", "Capacity")
             from: 1
             to: 20
             value: root.editedCapacity

@@ -5,10 +5,13 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
+import "../../components/Fields.js" as Fields
 
 // The categories and the field for a new one. The texts belong to the page of the menu.
 ColumnLayout {
     id: root
+
+    readonly property Item startItem: newCategoryField
 
     signal deleteRequested(int categoryId, string name)
 
@@ -18,6 +21,7 @@ ColumnLayout {
         // The text goes in as it stands, blanks and all; a refused one stays in the field.
         if (MenuService.addCategory(newCategoryField.text))
             newCategoryField.clear()
+        newCategoryField.forceActiveFocus()
     }
 
     function startRenaming(row: int): void {
@@ -45,6 +49,7 @@ ColumnLayout {
             categoryId: model.id
             name: model.name
 
+            onDeleteRequested: (categoryId, name) => root.deleteRequested(categoryId, name)
             onMenuRequested: contextMenu.openFor(model.index, model.id, model.name)
         }
 
@@ -56,7 +61,11 @@ ColumnLayout {
     }
 
     ColumnLayout {
+        id: form
+
         spacing: 8
+
+        Keys.onPressed: event => Fields.goOn(event, form, addButton)
 
         ThemedField {
             id: newCategoryField
@@ -66,6 +75,8 @@ ColumnLayout {
         }
 
         PrimaryButton {
+            id: addButton
+
             Layout.fillWidth: true
             Layout.topMargin: 15
             padding: 15

@@ -4,10 +4,13 @@ import QtQuick
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
+import "../../components/Fields.js" as Fields
 
 // The block that adds an item to the selected category. The texts belong to the page of the menu.
 ColumnLayout {
     id: root
+
+    readonly property Item startItem: nameField
 
     function add(): void {
         const name = nameField.text.trim()
@@ -23,9 +26,12 @@ ColumnLayout {
         portionField.clear()
         availableBox.checked = true
         taxableBox.checked = true
+        nameField.forceActiveFocus()
     }
 
     spacing: 8
+
+    Keys.onPressed: event => Fields.goOn(event, root, addButton)
 
     RowLayout {
         spacing: 8
@@ -74,6 +80,8 @@ ColumnLayout {
     }
 
     PrimaryButton {
+        id: addButton
+
         Layout.fillWidth: true
         Layout.topMargin: 15
         padding: 15

@@ -79,6 +79,7 @@ ScrollPage {
                 width: ListView.view.width
                 height: cardRow.implicitHeight + 24
                 Accessible.name: modelData.system_name
+                Accessible.description: root.roleLabel(modelData.role)
                 Accessible.role: Accessible.ListItem
                 color: Theme.surface
                 radius: 4
@@ -113,6 +114,7 @@ ScrollPage {
                     }
 
                     RowButton {
+                        minimumHeight: 40
                         fillColor: "#ebac00"
                         text: qsTr("Edit")
 
@@ -120,6 +122,7 @@ ScrollPage {
                     }
 
                     RowButton {
+                        minimumHeight: 40
                         fillColor: "#4faba1"
                         text: qsTr("Test")
 
@@ -128,6 +131,7 @@ ScrollPage {
                     }
 
                     RowButton {
+                        minimumHeight: 40
                         fillColor: "#e53935"
                         text: qsTr("Remove")
 

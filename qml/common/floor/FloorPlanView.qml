@@ -46,10 +46,23 @@ Rectangle {
             color: isTable ? FloorRows.fill(model.status, Theme.surface) : Theme.surface
             borderColor: isTable && model.table_id === root.selectedTableId ? Theme.primary() : "#555555"
 
+            activeFocusOnTab: isTable
+
             Accessible.role: Accessible.Button
             Accessible.name: label
             Accessible.ignored: !isTable
             Accessible.onPressAction: root.tableSelected(model.table_id)
+
+            Keys.onEnterPressed: root.tableSelected(model.table_id)
+            Keys.onReturnPressed: root.tableSelected(model.table_id)
+            Keys.onSpacePressed: root.tableSelected(model.table_id)
+
+            FocusRing {
+                anchors.fill: parent
+                anchors.margins: -4
+                radius: 6
+                visible: item.activeFocus
+            }
 
             MouseArea {
                 anchors.fill: parent

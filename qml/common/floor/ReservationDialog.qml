@@ -111,15 +111,14 @@ ModalFrame {
                     text: qsTranslate("OrderTakingFloorPlan", "Number Of Guests")
                 }
 
-                SpinBox {
+                ThemedSpinBox {
                     id: guestsBox
 
                     Layout.fillWidth: true
                     from: 1
                     to: 100
                     value: 2
-                    Accessible.name: qsTranslate("OrderTakingFloorPlan", "Number Of Guests")
-                    font.pixelSize: Theme.fontNormal
+                    label: qsTranslate("OrderTakingFloorPlan", "Number Of Guests")
                 }
 
                 PlainLabel {
@@ -148,17 +147,15 @@ ModalFrame {
                     text: qsTranslate("OrderTakingFloorPlan", "Duration (minutes)")
                 }
 
-                SpinBox {
+                ThemedSpinBox {
                     id: durationBox
 
                     Layout.fillWidth: true
-                    editable: true
                     from: 30
                     to: 300
                     stepSize: 30
                     value: 90
-                    Accessible.name: qsTranslate("OrderTakingFloorPlan", "Duration (minutes)")
-                    font.pixelSize: Theme.fontNormal
+                    label: qsTranslate("OrderTakingFloorPlan", "Duration (minutes)")
                 }
 
                 PlainLabel {
