@@ -46,7 +46,8 @@ Rectangle {
                 width: ListView.view.width
 
                 Accessible.role: Accessible.ListItem
-                Accessible.name: row.modelData.text + " " + row.modelData.figure
+                Accessible.name: row.modelData.text
+                Accessible.description: row.modelData.figure
 
                 PlainLabel {
                     Layout.fillWidth: true

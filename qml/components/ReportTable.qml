@@ -77,7 +77,7 @@ ColumnLayout {
             color: index % 2 === 0 ? Theme.background : Theme.surface
 
             Accessible.role: Accessible.ListItem
-            Accessible.name: root.columns.map(column => column.title + " " + column.text(modelData)).join(", ")
+            Accessible.name: root.columns.map((column, place) => (place > 0 ? column.title + " " : "") + column.text(modelData)).join(", ")
 
             Cells {
                 anchors.fill: parent

@@ -55,14 +55,14 @@ class Books:
         day = self.database.ask("SELECT strftime('%d/%m/%Y', 'now')")
         count = self.database.ask(f"SELECT count(*) FROM order_sessions WHERE {PAID}")
         self.page_says(f"{day} - {day}", f"Sales Before Tax {self.money('sum(subtotal)')}",
-                       f"Sales Tax {self.money('sum(tax)')}", "8.25%", f"Discount {self.money('sum(discount)')}",
-                       f"Total Sales {self.money('sum(total)')}", f"{count}transactions")
-        self.row_says(day, count, self.money("sum(subtotal)"), self.money("sum(tax)"), self.money("sum(total)"))
+                       f"Sales Tax {self.money('sum(tax)')} 8.25%", f"Discount {self.money('sum(discount)')}",
+                       f"Total Sales {self.money('sum(total)')} {count}transactions")
+        self.row_says(f"{day}, …", count, self.money("sum(subtotal)"), self.money("sum(tax)"), self.money("sum(total)"))
         sessions = self.database.ask(f"SELECT id, receipt_number FROM order_sessions WHERE {PAID}").split("\n")
         for line in sessions:
             session, receipt = line.split("|")
             where = f"id = {session}"
-            self.row_says(receipt, self.money("subtotal", where), self.money("tax", where),
+            self.row_says(f"{receipt}, …", self.money("subtotal", where), self.money("tax", where),
                           self.money("total", where),
                           self.database.ask(f"SELECT closed_at FROM order_sessions WHERE {where}"))
         screen.picture("tax-report")

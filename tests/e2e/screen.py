@@ -198,6 +198,10 @@ class Screen:
             return False
         wait_for(focused, f"{field.get_name()!r} to take the focus")
 
+    def write(self, text):
+        """Types into whatever the keys go to."""
+        self._xdotool("type", "--delay", "12", "--", text)
+
     def keys(self, *names):
         self._xdotool("key", "--clearmodifiers", "--delay", "4", *names)
 
