@@ -3,6 +3,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtTest
+import zelvan
 import zelvan.Theme 1.0
 import Zelvan.Services 1.0
 import ZelvanTest 1.0
@@ -452,6 +453,7 @@ ScreenTestCase {
         for (let count = 0; count < 5; ++count)
             keyClick(Qt.Key_Return)
         compare(TestDb.value("SELECT name FROM restaurant"), "Corner")
+        tryVerify(() => !Work.busy)
         field("Address").forceActiveFocus()
         type("Street")
         keyClick(Qt.Key_Return, Qt.ControlModifier)
