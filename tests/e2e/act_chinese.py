@@ -151,7 +151,7 @@ class Chinese:
         revenue = self.database.ask("SELECT printf('¥%.2f', sum(total) / 100.0) FROM order_sessions")
         screen.says(f"今日营业额 {revenue}")
         self.visit("AdminSidebar", "Tax Reports", "tax-report")
-        screen.says(f"总销售额 {revenue}")
+        screen.says(f"总销售额 {revenue} …")
 
     def the_administration_is_chinese(self):
         screen = self.screen
