@@ -22,6 +22,10 @@ Flickable {
     contentHeight: content.implicitHeight + 40
     clip: true
 
+    FlickGuard {
+        list: root
+    }
+
     component Card: FigureCard {
         Layout.fillWidth: true
         Layout.preferredWidth: 1

@@ -88,12 +88,11 @@ Rectangle {
             id: slideGuard
         }
 
-        ListView {
+        ScrollList {
             id: cards
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            clip: true
             spacing: 12
             model: ids
 

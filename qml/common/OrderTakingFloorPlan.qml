@@ -154,12 +154,18 @@ Item {
                     border.color: Theme.border
 
                     Flickable {
+                        id: sheet
+
                         anchors.fill: parent
                         anchors.margins: 1
                         clip: true
                         contentWidth: 1600
                         contentHeight: 1200
                         boundsBehavior: Flickable.StopAtBounds
+
+                        FlickGuard {
+                            list: sheet
+                        }
 
                         FloorPlanView {
                             width: 1600

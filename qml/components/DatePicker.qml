@@ -116,10 +116,9 @@ Item {
         focus: true
         closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
-        background: Rectangle {
-            radius: 12
+        background: DialogSurface {
             color: Theme.surface
-            border.color: Theme.border
+            radius: 12
         }
 
         contentItem: Column {

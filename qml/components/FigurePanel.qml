@@ -27,10 +27,9 @@ Rectangle {
             text: root.title
         }
 
-        ListView {
+        ScrollList {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            clip: true
             reuseItems: true
             spacing: 8
             model: root.rows

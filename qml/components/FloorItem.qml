@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import zelvan
+import "FloorShapes.js" as FloorShapes
 
 // One item of a floor: a table with its chairs, or a wall, with the handles that edit it.
 Item {
@@ -19,49 +20,21 @@ Item {
     property string tableType: metadata?.table_type ? String(metadata.table_type) : "square"
     property bool editable: true
     readonly property int chairSpacing: 20
+    readonly property list<Item> handles: [turnHandle, lengthHandle]
+    // Lets a press through to the item that is seen there.
+    readonly property QtObject seenMask: QtObject {
+        function contains(point: point): bool {
+            if (!FloorShapes.isInBox(root, point.x, point.y))
+                return false
+            const at = root.mapToItem(root.parent, point.x, point.y)
+            return FloorShapes.seenAt(root.parent, at.x, at.y) === root
+        }
+    }
 
     signal changed(real x, real y, real width, real rotation)
 
     function report() {
         root.changed(root.x, root.y, root.width, root.rotation)
-    }
-
-    // The centre of a chair in the item's coordinates.
-    function chairCentre(index: int): point {
-        if (tableType === "circle")
-            return circleChair(index)
-        return tableType === "rectangle" ? longSideChair(index) : sideChair(index)
-    }
-
-    // From three o'clock, clockwise.
-    function circleChair(index: int): point {
-        const angle = index / capacity * 2 * Math.PI
-        const radius = Math.max(width, height) / 2 + chairSpacing
-        return Qt.point(width / 2 + Math.cos(angle) * radius, height / 2 + Math.sin(angle) * radius)
-    }
-
-    // Above first, then below; none at the short ends.
-    function longSideChair(index: int): point {
-        const perSide = Math.ceil(capacity / 2)
-        const t = (index % perSide + 1) / (perSide + 1)
-        return Qt.point(t * width, index < perSide ? -chairSpacing : height + chairSpacing)
-    }
-
-    // Top, right, bottom, left. Sides are filled one after the other, so that the last may stay
-    // empty: the uneven look is meant.
-    function sideChair(index: int): point {
-        const perSide = Math.ceil(capacity / 4)
-        const t = (index % perSide + 1) / (perSide + 1)
-        switch (Math.floor(index / perSide)) {
-        case 0:
-            return Qt.point(t * width, -chairSpacing)
-        case 1:
-            return Qt.point(width + chairSpacing, t * height)
-        case 2:
-            return Qt.point((1 - t) * width, height + chairSpacing)
-        default:
-            return Qt.point(-chairSpacing, (1 - t) * height)
-        }
     }
 
     width: 80
@@ -108,12 +81,21 @@ Item {
         }
     }
 
+    // As many lines as fit between the edges; in a circle, the box that its line encloses.
     Text {
+        readonly property bool isRound: root.tableType === "circle"
+
         anchors.centerIn: parent
+        width: isRound ? parent.width * 0.8 : parent.width - 8
+        height: Math.max(20, isRound ? parent.height * 0.6 : parent.height - (root.reservationText === "" ? 8 : 32))
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
         text: root.label
         textFormat: Text.PlainText
         color: "#383838"
+        elide: Text.ElideRight
         font.bold: true
+        wrapMode: Text.Wrap
     }
 
     Text {
@@ -134,7 +116,7 @@ Item {
 
         Rectangle {
             required property int index
-            readonly property point centre: root.chairCentre(index)
+            readonly property point centre: FloorShapes.chairCentre(root, index)
 
             objectName: "chair"
             x: centre.x - width / 2
@@ -148,16 +130,31 @@ Item {
 
     MouseArea {
         anchors.fill: parent
+        containmentMask: root.seenMask
+        preventStealing: root.editable
         drag.target: root.editable ? root : null
         cursorShape: root.editable ? Qt.DragMoveCursor : Qt.PointingHandCursor
         onPositionChanged: if (drag.active) root.report()
         onReleased: root.report()
     }
 
-    FloorItemHandles {
-        anchors.fill: parent
-        z: 9999
-        visible: root.editable
+    FloorTurnHandle {
+        id: turnHandle
+
+        objectName: "rotationHandle"
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: -25
+        visible: root.editable && (root.type === "wall" || root.type === "divider")
+        target: root
+    }
+
+    FloorLengthHandle {
+        id: lengthHandle
+
+        objectName: "resizeHandle"
+        anchors.horizontalCenter: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.editable && root.type === "wall"
         target: root
     }
 }

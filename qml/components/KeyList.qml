@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
+import zelvan
 
 // A list whose rows are chosen by keys as well: Tab reaches it, the arrows walk through it, Return and
 // Space do to the row what a click does.
-ListView {
+ScrollList {
     id: root
 
     // The row's function or signal.
@@ -18,7 +19,6 @@ ListView {
     }
 
     activeFocusOnTab: true
-    clip: true
     highlightMoveDuration: 0
     reuseItems: true
 

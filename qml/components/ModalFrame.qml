@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Controls
-import zelvan.Theme 1.0
+import zelvan
 import "Fields.js" as Fields
 
 // The frame of a modal dialog in the middle of the window. It takes the keys, which would otherwise
@@ -26,10 +26,5 @@ Popup {
 
         Keys.onPressed: event => Fields.goOn(event, root.contentItem, root.mainButton)
     }
-    background: Rectangle {
-        border.color: Theme.border
-        border.width: 1
-        color: Theme.background
-        radius: 8
-    }
+    background: DialogSurface {}
 }

@@ -5,7 +5,7 @@ import zelvan
 
 // The lines of the order being keyed in. The texts are the screen's, so that they are translated
 // with it; without a placeholder for remarks the lines have no field for one.
-ListView {
+ScrollList {
     id: root
 
     required property ListModel lines
@@ -17,7 +17,6 @@ ListView {
     // Qt.NoFocus where the buttons of the screen leave the focus where it is.
     property int buttonPolicy: Qt.StrongFocus
 
-    clip: true
     // Far rows stay made, so that a remark typed into one is still shown there.
     cacheBuffer: 4000
     model: lines

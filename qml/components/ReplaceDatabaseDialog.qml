@@ -25,11 +25,8 @@ ModalFrame {
     padding: 24
     width: 420
 
-    background: Rectangle {
-        border.color: Theme.border
-        border.width: 1
+    background: DialogSurface {
         color: Theme.surface
-        radius: 8
     }
 
     ColumnLayout {

@@ -54,10 +54,9 @@ ColumnLayout {
         Layout.rightMargin: 12
     }
 
-    ListView {
+    ScrollList {
         Layout.fillWidth: true
         Layout.fillHeight: true
-        clip: true
         reuseItems: true
         model: root.rows
 

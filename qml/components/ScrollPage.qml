@@ -17,6 +17,8 @@ Rectangle {
     color: Theme.background
 
     ScrollView {
+        id: scroller
+
         anchors.bottom: footerRow.top
         anchors.bottomMargin: 10
         anchors.left: parent.left
@@ -36,6 +38,10 @@ Rectangle {
                 id: headingLabel
             }
         }
+    }
+
+    FlickGuard {
+        list: scroller.contentItem as Flickable
     }
 
     RowLayout {

@@ -51,6 +51,10 @@ ColumnLayout {
             width: 4
         }
 
+        FlickGuard {
+            list: grid
+        }
+
         delegate: TableTile {
             required property var model
 

@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import zelvan
-import zelvan.Theme 1.0
 
 // Asks for the label, the seats and the shape of a new table. The values stay for the next opening.
 ModalFrame {

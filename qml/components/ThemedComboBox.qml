@@ -26,13 +26,49 @@ ComboBox {
     displayText: currentIndex < 0 ? givenValue ?? "" : currentText
     font.pixelSize: Theme.fontNormal
     implicitHeight: 40
-    popup.font.pixelSize: Theme.fontNormal
+    leftPadding: 8
+    palette.buttonText: Theme.text
     textRole: "text"
     valueRole: "value"
 
     FocusRing {
         anchors.fill: parent
-        radius: 3
+        radius: 4
         visible: control.visualFocus
+    }
+
+    background: Rectangle {
+        border.color: control.visualFocus || control.popup.visible ? Theme.primary() : Theme.secondaryText
+        border.width: 1
+        color: control.down ? Theme.border : Theme.surface
+        implicitWidth: 120
+        opacity: control.enabled ? 1 : 0.6
+        radius: 4
+    }
+    delegate: ThemedMenuItem {
+        required property int index
+
+        width: ListView.view.width
+        font.weight: control.currentIndex === index ? Font.DemiBold : Font.Normal
+        highlighted: control.highlightedIndex === index
+        text: control.textAt(index)
+    }
+    popup: Popup {
+        y: control.height
+        width: control.width
+        height: Math.min(contentItem.implicitHeight + 2 * padding, control.Window.height - 2 * margins)
+        margins: 6
+        padding: 1
+
+        background: PopupSurface {}
+        contentItem: ScrollList {
+            currentIndex: control.highlightedIndex
+            highlightMoveDuration: 0
+            highlightRangeMode: ListView.ApplyRange
+            implicitHeight: contentHeight
+            model: control.delegateModel
+
+            ScrollBar.vertical: ScrollBar {}
+        }
     }
 }

@@ -46,7 +46,7 @@ int main(int argc, char **argv)
     AppService app;
     app.setDatabasePath(file.path());
     DatabaseManager database;
-    SystemTheme systemTheme;
+    SystemTheme systemTheme(qEnvironmentVariableIsSet("ZELVAN_TEST_DARK"));
     Theme theme(&systemTheme);
     RecordingSpooler spooler;
     Repositories repositories;

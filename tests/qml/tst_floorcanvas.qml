@@ -149,6 +149,95 @@ ZelvanTestCase {
         compare(FloorPlanService.canvasModel.get(0).width, 200)
     }
 
+    // Places on the handles, measured from the middle of the edge that they sit on.
+    function handlePlaces(): var {
+        return [
+            { tag: "the end handle's outer half", x: 156, y: 5, lengthens: true },
+            { tag: "its inner half", x: 144, y: 5, lengthens: true },
+            { tag: "its upper edge", x: 151, y: -2, lengthens: true },
+            { tag: "its lower edge", x: 151, y: 12, lengthens: true },
+            { tag: "the turning handle", x: 75, y: -16, lengthens: false },
+            { tag: "its far edge", x: 75, y: -23, lengthens: false }
+        ]
+    }
+
+    function verifyHandle(wall, data: var) {
+        const start = wall.mapToItem(root, data.x, data.y)
+        const along = wall.mapToItem(root, data.x + 40, data.y)
+
+        pull(start.x, start.y, along.x - start.x, along.y - start.y)
+
+        compare(wall.width > 160, data.lengthens, wall.width)
+        compare(wall.rotation !== wall.startRotation, !data.lengthens)
+    }
+
+    function startedWall(index: int): var {
+        const wall = floorItems()[index]
+        return { get width() { return wall.width }, get rotation() { return wall.rotation }, startRotation: wall.rotation, mapToItem: (other, x, y) => wall.mapToItem(other, x, y) }
+    }
+
+    function test_every_handle_of_a_loaded_wall_works_data() {
+        return handlePlaces()
+    }
+
+    function test_every_handle_of_a_loaded_wall_works(data) {
+        addWall(300, 300)
+        addTable("T1", 600, 300)
+        addWall(300, 500)
+        FloorPlanService.saveCanvas(floorId)
+        FloorPlanService.loadCanvas(floorId)
+        canvas()
+
+        verifyHandle(startedWall(0), data)
+        verifyHandle(startedWall(2), data)
+    }
+
+    function test_every_handle_of_a_fresh_wall_works_data() {
+        return handlePlaces()
+    }
+
+    function test_every_handle_of_a_fresh_wall_works(data) {
+        canvas()
+        addTable("T1", 600, 300)
+        addWall(300, 300)
+
+        verifyHandle(startedWall(1), data)
+    }
+
+    function test_every_handle_of_a_turned_wall_works_data() {
+        return handlePlaces()
+    }
+
+    function test_every_handle_of_a_turned_wall_works(data) {
+        FloorPlanService.addItem({ type: "wall", x: 300, y: 300, width: 150, height: 10, label: "", rotation: 60 })
+        canvas()
+
+        verifyHandle(startedWall(0), data)
+    }
+
+    function test_a_handle_under_a_table_leaves_the_press_to_the_table() {
+        addWall(300, 300)
+        addTable("T1", 440, 280)
+        canvas()
+        const wall = startedWall(0)
+
+        pull(454, 305, 0, 100)
+        compare([wall.width, wall.rotation], [150, 0])
+        verify(item("T1").y > 300)
+
+        verifyHandle(wall, { x: 156, y: 5, lengthens: true })
+    }
+
+    function test_a_divider_is_turned_and_a_table_has_no_handle() {
+        FloorPlanService.addItem({ type: "divider", x: 300, y: 300, width: 150, height: 10, label: "" })
+        addTable("T1", 600, 300)
+        canvas()
+
+        verifyHandle(startedWall(0), { x: 75, y: -16, lengthens: false })
+        pull(640, 284, 50, 0)
+        compare([item("T1").rotation, item("T1").x], [0, 600])
+    }
+
     function test_a_right_click_selects_and_offers_to_delete() {
         addTable("T1", 100, 200)
         addTable("T2", 300, 200)
@@ -176,6 +265,150 @@ ZelvanTestCase {
         compare(page.selectedIndex, -1)
     }
 
+    // Presses, moves in small steps and releases, all in the window's coordinates.
+    function pull(x: real, y: real, dx: int, dy: int) {
+        mousePress(root, x, y)
+        for (let step = 1; step <= 10; ++step)
+            mouseMove(root, x + dx * step / 10, y + dy * step / 10)
+        mouseRelease(root, x + dx, y + dy)
+    }
+
+    function item(label: string): var {
+        return floorItems().find(found => found.label === label)
+    }
+
+    function rowLabels(): var {
+        const labels = []
+        for (let i = 0; i < FloorPlanService.canvasModel.rowCount(); ++i)
+            labels.push(FloorPlanService.canvasModel.get(i).label)
+        return labels
+    }
+
+    function storedTables(): var {
+        return TestDb.rows("SELECT table_name FROM tables ORDER BY id").map(row => row.table_name)
+    }
+
+    function deleteAt(x: real, y: real) {
+        mouseClick(root, x, y, Qt.RightButton)
+        tryVerify(() => hasButton("Delete"))
+        press("Delete")
+        tryVerify(() => !hasButton("Delete"))
+    }
+
+    function test_of_tables_on_one_spot_the_one_on_top_is_deleted() {
+        for (const label of ["old", "newer", "one too many"])
+            addTable(label, 100, 100)
+        canvas()
+
+        deleteAt(140, 140)
+        compare(storedTables(), ["old", "newer"])
+        deleteAt(140, 140)
+
+        compare(storedTables(), ["old"])
+        compare(rowLabels(), ["old"])
+    }
+
+    function test_what_is_seen_on_top_takes_a_right_click_data() {
+        return [
+            { tag: "the table drawn later", x: 160, y: 140, meant: 2 },
+            { tag: "the lower one where it is seen", x: 110, y: 140, meant: 1 },
+            { tag: "its chair on the lower table", x: 130, y: 140, upper: { x: 150 }, meant: 2 },
+            { tag: "the higher z before the later one", x: 160, y: 140, lower: { z_order: 1 }, meant: 1 },
+            { tag: "the lower one beside the round of a circle", x: 154, y: 104, upper: { metadata: JSON.stringify({ table_type: "circle" }) }, meant: 1 },
+            { tag: "a circle within its round", x: 164, y: 116, upper: { metadata: JSON.stringify({ table_type: "circle" }) }, meant: 2 },
+            { tag: "a circle's empty corner over nothing", x: 227, y: 103, upper: { metadata: JSON.stringify({ table_type: "circle" }) }, meant: 2 },
+            { tag: "a turned table's corner", x: 190, y: 88, upper: { rotation: 45 }, meant: 2 }
+        ]
+    }
+
+    function test_what_is_seen_on_top_takes_a_right_click(data) {
+        addTable("lower", 100, 100, data.lower)
+        addTable("upper", 150, 100, data.upper)
+        canvas()
+
+        mouseClick(root, data.x, data.y, Qt.RightButton)
+        tryVerify(() => hasButton("Delete"))
+        press("Delete")
+
+        compare(rowLabels(), [data.meant === 2 ? "lower" : "upper"])
+    }
+
+    function test_a_handle_over_a_table_belongs_to_its_wall() {
+        addTable("T1", 100, 100)
+        addWall(60, 190)
+        canvas()
+        const handle = findChild(floorItems()[1], "rotationHandle").mapToItem(root, 9, 9)
+        verify(item("T1").contains(item("T1").mapFromItem(root, handle.x, handle.y)))
+
+        deleteAt(handle.x, handle.y)
+
+        compare(rowLabels(), ["T1"])
+    }
+
+    function test_a_right_click_on_the_empty_floor_opens_nothing() {
+        addTable("T1", 100, 100)
+        canvas()
+
+        mouseClick(root, 600, 600, Qt.RightButton)
+
+        compare(page.selectedIndex, -1)
+        verify(!hasButton("Delete"))
+    }
+
+    function test_of_items_on_one_spot_the_one_on_top_is_dragged() {
+        for (const label of ["old", "new"])
+            addTable(label, 100, 100)
+        canvas()
+
+        pull(140, 140, 200, 0)
+
+        compare(item("old").x, 100)
+        verify(item("new").x > 200)
+        pull(140, 140, 0, 200)
+        compare(item("old").x, 100)
+        verify(item("old").y > 200)
+    }
+
+    function test_a_table_seen_beside_a_round_one_is_dragged() {
+        addTable("lower", 100, 100)
+        addTable("round", 150, 100, { metadata: JSON.stringify({ table_type: "circle" }) })
+        canvas()
+
+        pull(154, 104, 0, 200)
+
+        verify(item("lower").y > 200)
+        compare(item("round").y, 100)
+    }
+
+    function test_a_label_stays_inside_its_table_data() {
+        const label = "The long table by the window to the garden"
+        return [
+            { tag: "square", metadata: { table_type: "square" }, label: label },
+            { tag: "rectangle", width: 140, metadata: { table_type: "rectangle" }, label: label },
+            { tag: "circle", metadata: { table_type: "circle" }, label: label },
+            { tag: "one word", metadata: { table_type: "square" }, label: "W".repeat(40) },
+            { tag: "reserved", metadata: { table_type: "square", reservation: { time_label: "07:00 PM" } }, label: label }
+        ]
+    }
+
+    function test_a_label_stays_inside_its_table(data) {
+        addTable(data.label, 100, 100, { width: data.width ?? 80, metadata: JSON.stringify(data.metadata) })
+        canvas()
+        const table = floorItems()[0]
+
+        const label = theShown(shown => shown.text === data.label && shown.contentWidth !== undefined, "the label")
+        const corner = label.mapToItem(table, (label.width - label.contentWidth) / 2, (label.height - label.contentHeight) / 2)
+
+        compare(label.truncated, data.tag !== "rectangle")
+        verify(label.contentWidth > 30 && label.contentHeight > 14)
+        verify(corner.x >= 2 && corner.x + label.contentWidth <= table.width - 2, corner.x + " " + label.contentWidth)
+        verify(corner.y >= 2 && corner.y + label.contentHeight <= table.height - 2, corner.y + " " + label.contentHeight)
+        if (data.metadata.reservation) {
+            const reserved = theShown(shown => shown.text === "Reserved 07:00 PM", "the booking")
+            verify(corner.y + label.contentHeight <= reserved.y)
+        }
+    }
+
     SignalSpy {
         id: selectedSpy
 
@@ -196,6 +429,21 @@ ZelvanTestCase {
         click(floorItems()[1])
 
         compare(selectedSpy.count, 2)
+    }
+
+    function test_a_click_beside_a_round_table_means_what_is_seen_there() {
+        addTable("lower", 100, 100)
+        addTable("round", 150, 100, { metadata: JSON.stringify({ table_type: "circle" }) })
+        plan()
+        selectedSpy.target = page
+        selectedSpy.clear()
+
+        mouseClick(page, 154, 104)
+        mouseClick(page, 190, 140)
+        mouseClick(page, 227, 103)
+        mouseClick(page, 90, 140)
+
+        compare(selectedSpy.signalArguments.map(list => list[0]), [1, 2, 2, -1])
     }
 
     function test_the_selected_table_is_framed() {

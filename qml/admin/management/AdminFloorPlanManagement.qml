@@ -68,20 +68,30 @@ Item {
 
         required property var model
 
+        function openMenu(x: real, y: real) {
+            floorMenu.floorId = model.id
+            floorMenu.popup(mapToItem(root, x, y))
+        }
+
         width: Math.min(implicitWidth, 240)
         padding: 10
         font.bold: true
         checked: model.id === root.currentFloorId
         text: model.name
+        enabled: !hold.lettingGo
         onClicked: root.showFloor(model.id)
 
         MouseArea {
             anchors.fill: parent
             acceptedButtons: Qt.RightButton
-            onPressed: {
-                floorMenu.floorId = floorTab.model.id
-                floorMenu.popup()
-            }
+            onPressed: mouse => floorTab.openMenu(mouse.x, mouse.y)
+        }
+
+        HoldArea {
+            id: hold
+
+            anchors.fill: parent
+            onHeld: (x, y) => floorTab.openMenu(x, y)
         }
     }
 
@@ -98,7 +108,7 @@ Item {
 
         property int floorId: -1
 
-        MenuItem {
+        ThemedMenuItem {
             text: qsTr("Delete Floor")
             onTriggered: root.deleteFloor(floorMenu.floorId)
         }
@@ -151,6 +161,8 @@ Item {
 
                 // More floors than fit are scrolled to, and so is the button after them.
                 Flickable {
+                    id: tabs
+
                     Layout.fillWidth: true
                     Layout.preferredHeight: floorRow.height
                     boundsBehavior: Flickable.StopAtBounds
@@ -158,6 +170,10 @@ Item {
                     contentWidth: floorRow.width
 
                     ScrollBar.horizontal: ScrollBar {}
+
+                    FlickGuard {
+                        list: tabs
+                    }
 
                     Row {
                         id: floorRow

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan

@@ -75,10 +75,9 @@ Item {
             }
         }
 
-        ListView {
+        ScrollList {
             Layout.fillHeight: true
             Layout.fillWidth: true
-            clip: true
             model: UserService.userModel
             reuseItems: true
             spacing: 4

@@ -5,7 +5,8 @@ import Zelvan.Services 1.0
 import zelvan
 import zelvan.Theme 1.0
 
-// One category: a click selects it, a right click asks for the menu of what can be done with it.
+// One category: a click selects it, a right click or a finger that is held asks for the menu of what
+// can be done with it.
 Rectangle {
     id: root
 
@@ -16,7 +17,7 @@ Rectangle {
     property string originalCategory
     readonly property bool selected: root.categoryId === MenuService.currentCategoryId
 
-    signal menuRequested
+    signal menuRequested(real x, real y)
     signal deleteRequested(int categoryId, string name)
 
     function startEditing(): void {
@@ -91,13 +92,23 @@ Rectangle {
         anchors.fill: parent
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         enabled: !root.isEditing
+        visible: !hold.lettingGo
 
         onClicked: mouse => {
             if (mouse.button === Qt.RightButton)
-                root.menuRequested()
+                root.menuRequested(mouse.x, mouse.y)
             else
                 root.select()
         }
+    }
+
+    HoldArea {
+        id: hold
+
+        anchors.fill: parent
+        enabled: !root.isEditing
+
+        onHeld: (x, y) => root.menuRequested(x, y)
     }
 
     ThemedField {

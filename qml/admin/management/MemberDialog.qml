@@ -87,12 +87,11 @@ ModalFrame {
                     }
                 }
 
-                ListView {
+                ScrollList {
                     id: transactions
 
                     Layout.fillWidth: true
                     Layout.fillHeight: true
-                    clip: true
                     reuseItems: true
                     model: MemberService.transactionModel
 

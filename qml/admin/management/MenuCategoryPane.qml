@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
@@ -43,6 +42,8 @@ ColumnLayout {
         model: MenuService.categoryModel
 
         delegate: EditableCategoryRow {
+            id: row
+
             required property var model
 
             width: ListView.view.width
@@ -50,7 +51,10 @@ ColumnLayout {
             name: model.name
 
             onDeleteRequested: (categoryId, name) => root.deleteRequested(categoryId, name)
-            onMenuRequested: contextMenu.openFor(model.index, model.id, model.name)
+            onMenuRequested: (x, y) => {
+                contextMenu.aimAt(model.index, model.id, model.name)
+                contextMenu.popup(row.mapToItem(root, x, y))
+            }
         }
 
         EmptyHint {
@@ -94,20 +98,19 @@ ColumnLayout {
         property int categoryId: -1
         property string name
 
-        function openFor(row: int, categoryId: int, name: string): void {
+        function aimAt(row: int, categoryId: int, name: string): void {
             contextMenu.row = row
             contextMenu.categoryId = categoryId
             contextMenu.name = name
-            contextMenu.popup()
         }
 
-        MenuItem {
+        ThemedMenuItem {
             text: qsTranslate("AdminMenuManagement", "Rename")
 
             onTriggered: root.startRenaming(contextMenu.row)
         }
 
-        MenuItem {
+        ThemedMenuItem {
             text: qsTranslate("AdminMenuManagement", "Delete")
 
             onTriggered: root.deleteRequested(contextMenu.categoryId, contextMenu.name)

@@ -96,10 +96,9 @@ ModalFrame {
                   : qsTranslate("AdminPrinterSettings", "Select a printer")
         }
 
-        ListView {
+        ScrollList {
             Layout.fillWidth: true
             Layout.preferredHeight: 140
-            clip: true
             model: printerRoot.portsModel
             reuseItems: true
 

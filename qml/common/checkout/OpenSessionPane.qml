@@ -20,10 +20,9 @@ ColumnLayout {
         text: root.session ? qsTranslate("Checkout", "Order #") + root.session.display_number : ""
     }
 
-    ListView {
+    ScrollList {
         Layout.fillWidth: true
         Layout.fillHeight: true
-        clip: true
         reuseItems: true
         spacing: 16
         model: root.page.checkoutDetails

@@ -20,10 +20,9 @@ ColumnLayout {
         text: qsTranslate("Checkout", "Order #") + root.details.display_number
     }
 
-    ListView {
+    ScrollList {
         Layout.fillWidth: true
         Layout.fillHeight: true
-        clip: true
         reuseItems: true
         spacing: 16
         model: root.details.orders

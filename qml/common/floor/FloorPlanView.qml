@@ -66,6 +66,7 @@ Rectangle {
 
             MouseArea {
                 anchors.fill: parent
+                containmentMask: item.seenMask
                 enabled: item.isTable
                 cursorShape: Qt.PointingHandCursor
                 onClicked: root.tableSelected(item.model.table_id)

@@ -73,6 +73,10 @@ ModalFrame {
             text: root.confirmText
         }
 
+        FlickGuard {
+            list: scroller.contentItem as Flickable
+        }
+
         ScrollView {
             id: scroller
 

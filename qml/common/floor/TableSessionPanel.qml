@@ -33,6 +33,8 @@ Rectangle {
 
     // Long notes scroll, so that the buttons under them stay in reach.
     Flickable {
+        id: scroller
+
         anchors.fill: parent
         anchors.margins: 16
         boundsBehavior: Flickable.StopAtBounds
@@ -40,6 +42,10 @@ Rectangle {
         contentHeight: content.implicitHeight
 
         ScrollBar.vertical: ScrollBar {}
+
+        FlickGuard {
+            list: scroller
+        }
 
         ColumnLayout {
             id: content
