@@ -10,6 +10,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QTimeZone>
 
 #include <random>
 
@@ -116,7 +117,7 @@ public:
     HistoryWriter(PlainDatabase &database, int pastSessions, const QDate &today)
         : m_database(database)
         , m_pastSessions(pastSessions)
-        , m_today(today, QTime(0, 0), Qt::UTC)
+        , m_today(today, QTime(0, 0), QTimeZone::utc())
     {}
 
     void write()

@@ -33,6 +33,8 @@ ANNOUNCED = (
 
 
 class Tour:
+    noodles = "牛肉面"
+
     def __init__(self, program, pictures, work):
         self.work = pathlib.Path(work)
         self.screen = Screen(program, pictures)
@@ -164,13 +166,13 @@ class Tour:
         screen.press("Lunch", roles=ROW)
         screen.says("Menu Items")
         self.add_item("Espresso", "3.50")
-        self.add_item("牛肉面", "12.80", portion="Large")
+        self.add_item(self.noodles, "12.80", portion="Large")
         self.add_item("Bottled water", "2.00", taxable=False)
         self.add_item("Truffle pasta", "24.00", available=False)
         screen.picture("menu")
         self.database.expect(
             "SELECT item, price, ifnull(portion_size, ''), is_available, is_taxable FROM menu ORDER BY id",
-            "Espresso|350||1|1", "牛肉面|1280|Large|1|1", "Bottled water|200||1|0",
+            "Espresso|350||1|1", f"{self.noodles}|1280|Large|1|1", "Bottled water|200||1|0",
             "Truffle pasta|2400||0|1")
 
     def add_item(self, name, price, portion="", available=True, taxable=True):
@@ -257,7 +259,7 @@ class Tour:
         screen.press("Dine In")
         screen.press("A1", roles=ROW)
         self.pick("Espresso", times=2)
-        self.pick("牛肉面")
+        self.pick(self.noodles)
         screen.type_into("Add a remark", "no coriander", index=1)
         screen.says("$19.80")
         screen.picture("order-dine-in")
@@ -266,9 +268,9 @@ class Tour:
         self.database.expect("SELECT order_type, table_id, status, subtotal, tax, total FROM order_sessions",
                              "dine_in|1|open|1980|163|2143")
         self.database.expect("SELECT item_name, quantity, price, ifnull(notes, '') FROM order_items ORDER BY id",
-                             "Espresso|2|350|", "牛肉面|1|1280|no coriander")
+                             "Espresso|2|350|", f"{self.noodles}|1|1280|no coriander")
         self.expect_ticket("Dine In | Table 1", [row(" Espresso", "2x"), b"",
-                                                  row(" 牛肉面 (Large)", "1x"), b"  - no coriander"])
+                                                  row(f" {self.noodles} (Large)", "1x"), b"  - no coriander"])
 
     def expect_ticket(self, service, lines):
         ticket = self.paper.next()
@@ -364,7 +366,7 @@ class Tour:
         expected.append(moment)
         expected += [re.escape(line) for line in (
             dashes, row("1 x Bottled water", "2.00"), b"   @ 2.00", row("2 x Espresso", "7.00"),
-            b"   @ 3.50", row("1 x 牛肉面 (Large)", "12.80"), b"   @ 12.80", dashes,
+            b"   @ 3.50", row(f"1 x {self.noodles} (Large)", "12.80"), b"   @ 12.80", dashes,
             b"Subtotal: 21.80", b"Tax (Sales Tax 8.25%): 1.63", b"Discount: 0", b"Total: 23.43", b"",
             dashes, b"Balance Before: 0", b"Points Earned: +23", b"Balance After: 23", dashes, b"",
             b"Thank you!", b"", b"", b"", b"")]
@@ -465,8 +467,9 @@ class Tour:
 
     # The whole
 
-    def play(self):
-        steps = [
+    def first_day(self):
+        """From the empty computer to the first bill that is paid."""
+        return [
             self.the_first_start_asks_for_a_database,
             self.a_database_is_made_in_a_folder_that_is_not_there_yet,
             self.the_first_admin_registers_and_skips_the_sign_up,
@@ -485,6 +488,11 @@ class Tour:
             self.a_takeaway_is_ordered,
             self.the_table_pays_and_becomes_a_member,
             self.the_receipt_comes_out,
+        ]
+
+    def steps(self):
+        return [
+            *self.first_day(),
             self.the_receipt_is_printed_again,
             self.the_second_bill_redeems_the_points,
             self.the_database_is_backed_up,
@@ -492,9 +500,10 @@ class Tour:
             *Floors(self).steps(),
             *Books(self).steps(),
             *Chinese(self).steps(),
-            self.the_log_holds_no_surprise,
         ]
-        for step in steps:
+
+    def play(self):
+        for step in [*self.steps(), self.the_log_holds_no_surprise]:
             begin = time.monotonic()
             print(f"{step.__name__.replace('_', ' ')} ", end="", flush=True)
             step()
@@ -503,15 +512,18 @@ class Tour:
 
 @contextlib.contextmanager
 def window_manager():
-    manager = subprocess.Popen(["openbox"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+    # A window that wants to be shown while the manager is still starting stays hidden for good. What the
+    # manager is told to run at its start, it runs once it has looked at all windows.
+    ready = pathlib.Path(os.environ["XDG_RUNTIME_DIR"], "window-manager-is-ready")
+    ready.unlink(missing_ok=True)
+    manager = subprocess.Popen(["openbox", "--startup", f"touch {ready}"], stdin=subprocess.DEVNULL,
+                               stdout=subprocess.DEVNULL)
 
     def manages():
         assert manager.poll() is None, f"the window manager ended with {manager.returncode}"
-        return "window id" in subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True,
-                                             text=True, timeout=20, check=True).stdout
+        return ready.exists()
 
     try:
-        # A window that is there first is unmapped and mapped again when the manager takes it over.
         wait_for(manages, "the window manager")
         yield
     finally:
@@ -540,9 +552,9 @@ def printer(work):
         listener.wait(timeout=20)
 
 
-def main(program, pictures, work):
-    with printer(pathlib.Path(work)), window_manager():
-        tour = Tour(program, pictures, work)
+def main(program, pictures, work, desktop=window_manager, kind=Tour):
+    with printer(pathlib.Path(work)), desktop():
+        tour = kind(program, pictures, work)
         try:
             tour.play()
         except BaseException:
