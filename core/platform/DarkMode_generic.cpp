@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/platform/DarkMode.h"
 
+#include "core/platform/DesktopPortal.h"
+
 #include <QGuiApplication>
 #include <QPalette>
 #include <QStyleHints>
@@ -19,6 +21,11 @@ bool systemPrefersDarkMode()
 #endif
     // Where the desktop names no scheme, its palette tells: text lighter than its background.
     const QPalette palette = QGuiApplication::palette();
-    return palette.color(QPalette::WindowText).lightness() >
-           palette.color(QPalette::Window).lightness();
+    if (palette.color(QPalette::WindowText).lightness() >
+        palette.color(QPalette::Window).lightness()) {
+        return true;
+    }
+    // Qt asks the portal too, but hears the answer only once events run, which is after the first
+    // frame.
+    return desktopPortalPrefersDarkMode().value_or(false);
 }

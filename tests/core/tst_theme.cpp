@@ -5,9 +5,27 @@
 #include "support/ZelvanTest.h"
 
 #include <QColor>
+#include <QElapsedTimer>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QSignalSpy>
+
+#include <cstdio>
+
+namespace {
+/// What the desktop around this process asks for, and how many milliseconds it took to know.
+int tellDarkMode(const QStringList &)
+{
+    QElapsedTimer timer;
+    timer.start();
+    const SystemTheme system;
+    const qint64 taken = timer.elapsed();
+    std::printf("%s %lld\n", system.darkMode() ? "dark" : "light", static_cast<long long>(taken));
+    return 0;
+}
+} // namespace
+
+ZELVAN_TEST_CHILD(tellDarkMode)
 
 class tst_Theme : public ZelvanTest
 {

@@ -23,6 +23,8 @@ TestEnvironment::TestEnvironment()
     QFile::setPermissions(home.filePath(QStringLiteral("runtime")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     use("XDG_RUNTIME_DIR", "runtime");
+    // Nor is the desktop asked for its colours.
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     // Tickets are bytes in the local encoding, so the tests fix it.
     qputenv("LC_ALL", "C.UTF-8");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
