@@ -2118,4 +2118,23 @@
         <translation>选择 Zelvan 数据库</translation>
     </message>
 </context>
+<context>
+    <name>TextFieldMenu</name>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
 </TS>

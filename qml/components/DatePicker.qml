@@ -84,6 +84,8 @@ Item {
             onReleased: root.open()
             Keys.onReturnPressed: root.open()
             Keys.onSpacePressed: root.open()
+
+            TextFieldMenu {}
         }
 
         Button {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Controls
+import zelvan
 import zelvan.System 1.0
 import zelvan.Theme 1.0
 
@@ -31,5 +32,7 @@ ScrollView {
         background: null
         onActiveFocusChanged: if (!activeFocus) Typing.commit(area)
         Accessible.name: root.label
+
+        TextFieldMenu {}
     }
 }

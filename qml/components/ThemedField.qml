@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Controls
+import zelvan
 import zelvan.System 1.0
 import zelvan.Theme 1.0
 
@@ -11,6 +12,7 @@ TextField {
 
     property string label: placeholderText
     property color fillColor: Theme.background
+    readonly property alias hasMenuOpen: contextMenu.isOpen
 
     Accessible.name: label
     Accessible.editable: !readOnly
@@ -29,6 +31,10 @@ TextField {
         border.width: control.activeFocus ? 2 : 1
         color: control.fillColor
         radius: 4
+    }
+
+    TextFieldMenu {
+        id: contextMenu
     }
 
     onActiveFocusChanged: if (!activeFocus) Typing.commit(control)

@@ -122,7 +122,7 @@ Rectangle {
         Keys.onEscapePressed: root.cancel()
         onAccepted: root.commit()
         onActiveFocusChanged: {
-            if (!activeFocus)
+            if (!activeFocus && !hasMenuOpen)
                 root.commit()
         }
         onTextEdited: root.editedCategory = text
