@@ -14,7 +14,7 @@ from act_books import Books
 from act_chinese import Chinese
 from act_floors import Floors
 from patience import wait_for
-from screen import BUTTON, FIELD, LABEL, RADIO, ROW, Screen
+from screen import BUTTON, FIELD, LABEL, MENU_ENTRY, RADIO, ROW, Screen
 from store import PASSWORD, PHONE, Database, Paper, receipt, row, without_commands
 
 SUPPORT = pathlib.Path(__file__).resolve().parents[1] / "support"
@@ -68,6 +68,8 @@ class Tour:
         screen.type_into("Password", PASSWORD)
         screen.type_into("Confirm password", PASSWORD)
         screen.picture("first-admin")
+        self.expect_menu("Username", "Cut", "Copy", "Paste", "Select All")
+        self.expect_menu("Password", "Paste", "Select All")
         screen.press("Register")
         screen.says("Thanks for setting up Zelvan")
         self.database.expect("SELECT username, role, deactivated_at IS NULL FROM users", "alice|admin|1")
@@ -76,6 +78,20 @@ class Tour:
         screen.press("Skip for now")
         screen.wait(BUTTON, "Take Order")
         screen.picture("admin-home")
+
+    def expect_menu(self, field, *entries):
+        """A right click offers these, in one menu, which Escape closes."""
+        screen = self.screen
+
+        def offered():
+            return [each.get_name() for each in screen.all(MENU_ENTRY, "…")]
+        screen.click_right(screen.wait(FIELD, field))
+        wait_for(lambda: screen.all(MENU_ENTRY, entries[-1]), f"the menu of {field!r}")
+        screen.rest()
+        assert offered() == list(entries), offered()
+        screen.picture(f"menu-of-{field.lower()}")
+        screen.keys("Escape")
+        wait_for(lambda: not offered(), f"the end of the menu of {field!r}")
 
     # The store
 
