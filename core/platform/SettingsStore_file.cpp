@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <unistd.h>
+
 namespace {
 QString storePath()
 {
@@ -63,42 +65,44 @@ bool prepare(const QString &draft, const QString &store, const SettingsStore::Ch
            holds(QSettings(draft, QSettings::NativeFormat), changes) && FileSystem::syncFile(draft);
 }
 
-SettingsStore::Changes current(const QStringList &keys)
+/// A second name for the same content: going back to it takes no room, and no reading.
+bool keepAs(const QString &kept, const QString &store)
 {
-    const QSettings settings;
-    SettingsStore::Changes values;
-    for (const QString &key : keys) {
-        values.insert(key, settings.contains(key) ? settings.value(key).toString() : QString());
-    }
-    return values;
+    QFile::remove(kept);
+    return link(QFile::encodeName(store).constData(), QFile::encodeName(kept).constData()) == 0 ||
+           Durable::copy(store, kept);
 }
 
-/// The store's own file is left alone until another one holds all of it.
-bool replace(const QString &store, const SettingsStore::Changes &changes)
+/// From here on the store has the new content, unless that does not get to the disk.
+bool putInPlace(const QString &draft, const QString &store)
 {
-    // Never the same name twice: QSettings remembers what it failed to write under one.
-    static int count = 0;
-    const QString draft = QStringLiteral("%1.new%2").arg(store).arg(++count);
-    QFile::remove(draft);
-    if (!prepare(draft, store, changes) || !FileSystem::replaceBy(store, draft)) {
-        QFile::remove(draft);
+    const QString kept = store + QStringLiteral(".old");
+    const bool isFirst = !QFile::exists(store);
+    if ((!isFirst && !keepAs(kept, store)) || !FileSystem::replaceBy(store, draft)) {
+        QFile::remove(kept);
         return false;
     }
+    if (!FileSystem::syncFolder(QFileInfo(store).absolutePath())) {
+        static_cast<void>(isFirst ? QFile::remove(store) : FileSystem::replaceBy(store, kept));
+        return false;
+    }
+    QFile::remove(kept);
     return true;
 }
 } // namespace
 
 bool SettingsStore::store(const Changes &changes)
 {
+    // Never the same name twice: QSettings remembers what it failed to write under one.
+    static int count = 0;
     const QString store = storePath();
-    const QString folder = QFileInfo(store).absolutePath();
-    const Changes before = current(changes.keys());
-    if (!Durable::makeFolder(folder) || !replace(store, changes)) {
-        return false;
+    const QString draft = QStringLiteral("%1.new%2").arg(store).arg(++count);
+    // The store's own file is left alone until another one holds all of it.
+    QFile::remove(draft);
+    const bool isStored = Durable::makeFolder(QFileInfo(store).absolutePath()) &&
+                          prepare(draft, store, changes) && putInPlace(draft, store);
+    if (!isStored) {
+        QFile::remove(draft);
     }
-    if (!FileSystem::syncFolder(folder)) {
-        static_cast<void>(replace(store, before));
-        return false;
-    }
-    return true;
+    return isStored;
 }
