@@ -58,7 +58,8 @@ class Box:
         """`disk`: the variables of the preloaded library, as trace=FILE or fault="sync 1 EIO once"."""
         own = {name: value for name, value in os.environ.items() if not name.startswith(("STEEL_", "QT_"))}
         own |= {"HOME": str(self.folder), "XDG_CONFIG_HOME": str(self.config),
-                "XDG_DATA_HOME": str(self.folder / "data"), "LC_ALL": "C.UTF-8", "TZ": "UTC"}
+                "XDG_DATA_HOME": str(self.folder / "data"), "XDG_RUNTIME_DIR": str(self.folder / "data"),
+                "LC_ALL": "C.UTF-8", "TZ": "UTC", "QT_QPA_PLATFORM": "offscreen", "QT_QUICK_BACKEND": "software"}
         if disk:
             own |= {"LD_PRELOAD": str(self.library), "STEEL_ROOT": f"{self.disk}/"}
             own |= {f"STEEL_{name.upper()}": str(value) for name, value in disk.items()}

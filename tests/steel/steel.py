@@ -15,12 +15,17 @@ import sys
 import tempfile
 import time
 
+import company
 import faults
+import hostilefiles
 import kills
+import ladders
 import powercuts
+import soak
 from box import Box
 
-PARTS = {"kills": kills.run, "faults": faults.run, "powercuts": powercuts.run}
+PARTS = {part.__name__: part.run for part in (
+    kills, faults, powercuts, ladders, company, hostilefiles, soak)}
 
 
 class Proof:

@@ -11,6 +11,7 @@
 //                      every later one; ERROR is EIO, ENOSPC, EACCES or "short"
 //   STEEL_KILL=N       ends the process before its N-th change
 //   STEEL_FULL=FILE    as long as FILE exists, nothing grows and nothing is made
+//   STEEL_READONLY=1   nothing is opened for writing, made, renamed or removed
 // A "-shm" file is left out of the trace: it is memory, and made anew after a power cut.
 #define _GNU_SOURCE
 #include <dlfcn.h>
@@ -56,7 +57,7 @@ static long calls[KINDS], changes, kill_at;
 static enum kind fault_kind = KINDS;
 static long fault_at;
 static int fault_error; // 0 is "short"
-static bool fault_stays;
+static bool fault_stays, read_only;
 static pthread_mutex_t mutex = PTHREAD_MUTEX_INITIALIZER;
 
 #define REAL(name)                                                                                 \
@@ -98,6 +99,7 @@ __attribute__((constructor)) static void begin(void)
     root = getenv("STEEL_ROOT");
     counts_path = getenv("STEEL_COUNTS");
     full_flag = getenv("STEEL_FULL");
+    read_only = getenv("STEEL_READONLY") != NULL;
     const char *text = getenv("STEEL_TRACE");
     if (text)
         trace = raw_open(text, O_WRONLY | O_CREAT | O_APPEND);
@@ -185,6 +187,13 @@ static bool full(void)
     return true;
 }
 
+static bool refused(void)
+{
+    if (read_only)
+        errno = EROFS;
+    return read_only;
+}
+
 static int opened(int (*real)(const char *, int, ...), const char *path, int flags, mode_t mode)
 {
     if (!watched(path))
@@ -195,6 +204,8 @@ static int opened(int (*real)(const char *, int, ...), const char *path, int fla
         errno = errno ? errno : EIO;
         return -1;
     }
+    if ((is_new || (flags & O_ACCMODE) != O_RDONLY) && refused())
+        return -1;
     if (is_new && full())
         return -1;
     const int fd = real(path, flags, mode);
@@ -422,7 +433,7 @@ int ftruncate64(int fd, off64_t size)
 static bool name_fails(enum kind kind)
 {
     if (!fails(kind, true))
-        return false;
+        return refused();
     errno = errno ? errno : EIO;
     return true;
 }

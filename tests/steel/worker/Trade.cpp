@@ -10,6 +10,7 @@ Trade::Trade(Till &till, unsigned seed, int attempts)
     : m_till(till)
     , m_random(seed)
     , m_attempts(attempts)
+    , m_tables(StoreContent::tables)
 {}
 
 void Trade::round()
@@ -61,11 +62,11 @@ QVariantList Trade::lines()
 int Trade::order()
 {
     OrderService &orders = m_till.services.orders;
-    if (pick(1, 3) == 1) {
+    if (m_tables == 0 || pick(1, 3) == 1) {
         return orders.createOrder(QStringLiteral("takeaway"), lines());
     }
     return orders.createOrder(QStringLiteral("dine_in"), lines(),
-                              {{QStringLiteral("tableId"), pick(1, StoreContent::tables)}});
+                              {{QStringLiteral("tableId"), pick(1, m_tables)}});
 }
 
 void Trade::pay(int sessionId)

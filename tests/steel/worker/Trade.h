@@ -17,6 +17,8 @@ public:
     /// `attempts`: how often a cashier presses the button of a bill that is refused.
     Trade(Till &till, unsigned seed, int attempts);
 
+    /// From now on over the counter only: no bill is anybody else's.
+    void leaveTables() { m_tables = 0; }
     /// One order, and mostly the payment of its bill.
     void round();
     /// Pays every bill that is open, each twice: the second time must change nothing.
@@ -31,4 +33,5 @@ private:
     Till &m_till;
     std::mt19937 m_random;
     int m_attempts;
+    int m_tables;
 };

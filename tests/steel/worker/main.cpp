@@ -49,7 +49,7 @@ int attemptsFrom(const QString &text)
     return text.isEmpty() ? usualAttempts : text.toInt();
 }
 
-/// SEED [ROUNDS [ATTEMPTS]]; for ever without a number of rounds.
+/// SEED [ROUNDS [ATTEMPTS ["counter"]]]; for ever without a number of rounds.
 bool trade(const QStringList &arguments)
 {
     Till till;
@@ -59,6 +59,9 @@ bool trade(const QStringList &arguments)
     }
     const int rounds = arguments.value(1).toInt();
     Trade evening(till, arguments.value(0).toUInt(), attemptsFrom(arguments.value(2)));
+    if (arguments.value(3) == QLatin1String("counter")) {
+        evening.leaveTables();
+    }
     for (int round = 0; rounds == 0 || round < rounds; ++round) {
         evening.round();
     }
