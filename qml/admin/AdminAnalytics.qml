@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
+import QtQuick.Controls
 import QtQuick.Layouts
 import zelvan
 import zelvan.Theme 1.0
@@ -18,6 +19,7 @@ Flickable {
         return currencySymbol + amount.toFixed(2)
     }
 
+    ScrollBar.vertical: RestingScrollBar {}
     contentWidth: width
     contentHeight: content.implicitHeight + 40
     clip: true

@@ -259,13 +259,13 @@ Item {
             rows: root.sessions
             // The closing time is shown as it is stored, in UTC.
             columns: [
-                { title: qsTr("Receipt"), width: 100, text: row => row.receiptNumber || "-" },
-                { title: qsTr("Type"), width: 110, text: row => row.orderType || "-" },
+                { title: qsTr("Receipt"), width: 100, least: 80, text: row => row.receiptNumber || "-" },
+                { title: qsTr("Type"), width: 110, least: 76, text: row => row.orderType || "-" },
                 { title: qsTr("Table"), width: 0, text: row => row.tableName || "-" },
-                { title: qsTr("Subtotal"), width: 120, text: row => root.money(row.subtotal) },
-                { title: qsTr("Tax"), width: 100, text: row => root.money(row.tax) },
-                { title: qsTr("Total"), width: 120, text: row => root.money(row.total) },
-                { title: qsTr("Closed At"), width: 160, text: row => row.closedAt }
+                { title: qsTr("Subtotal"), width: 120, least: 96, text: row => root.money(row.subtotal) },
+                { title: qsTr("Tax"), width: 100, least: 84, text: row => root.money(row.tax) },
+                { title: qsTr("Total"), width: 120, least: 96, text: row => root.money(row.total) },
+                { title: qsTr("Closed At"), width: 160, least: 146, text: row => row.closedAt }
             ]
         }
     }

@@ -14,7 +14,7 @@ Item {
     property int memberId: 0
     property int currentPoints: 0
     property bool membershipChecked: false
-    readonly property Item startItem: bills
+    readonly property Item startItem: openList
     property bool membershipEnabled: SettingService.membershipEnabled
     property int earnedPointsPreview: 0
     property int redeemPointsRequested: 0
@@ -31,6 +31,13 @@ Item {
     property bool requireReadyForCheckout: false
     property string kitchenMode: ""
     property string currencySymbol: ""
+
+    // What margins and gaps leave. On a small screen first the paid orders give way, then the open
+    // ones; the bill keeps room for its columns and for the names of the dishes.
+    readonly property real room: width - 32
+    readonly property real billWidth: 410
+    readonly property real recentWidth: Math.max(200, Math.min(300, room - 360 - billWidth))
+    readonly property real openWidth: Math.max(220, Math.min(360, room - recentWidth - billWidth))
 
     function reloadData() {
         activeSessions = CheckoutService.loadActiveCheckoutSessions()
@@ -143,14 +150,17 @@ Item {
 
     RowLayout {
         anchors.fill: parent
+        anchors.margins: 8
+        anchors.rightMargin: 12
         spacing: 6
 
         KeyList {
-            id: bills
+            id: openList
 
-            Layout.preferredWidth: 360
+            Layout.preferredWidth: root.openWidth + barRoom
             Layout.fillHeight: true
             spacing: 10
+            z: 1
             model: root.activeSessions
 
             Accessible.role: Accessible.List
@@ -159,7 +169,7 @@ Item {
             delegate: SessionRow {
                 required property var modelData
 
-                width: ListView.view.width
+                width: openList.rowWidth
                 title: "#" + modelData.display_number
                 subtitle: modelData.table_name ? qsTr("Table ") + modelData.table_name : modelData.order_type
                 selected: !!root.selectedSession && root.selectedSession.id === modelData.id
@@ -167,8 +177,8 @@ Item {
             }
 
             EmptyHint {
-                parent: bills
-                visible: bills.count === 0
+                parent: openList
+                visible: openList.count === 0
                 text: qsTranslate("Hints", "No open bills. An order that is placed opens one.")
             }
         }
@@ -196,7 +206,7 @@ Item {
 
         ColumnLayout {
             Layout.fillWidth: false
-            Layout.preferredWidth: 300
+            Layout.preferredWidth: root.recentWidth
             Layout.fillHeight: true
             spacing: 10
 
@@ -206,7 +216,7 @@ Item {
             }
 
             KeyList {
-                id: paidOrders
+                id: recentList
 
                 Layout.fillWidth: true
                 Layout.fillHeight: true
@@ -219,7 +229,7 @@ Item {
                 delegate: SessionRow {
                     required property var modelData
 
-                    width: ListView.view.width
+                    width: recentList.rowWidth
                     title: "#" + modelData.display_number
                     subtitle: root.money(modelData.total)
                     subtitleColor: Theme.green
@@ -229,8 +239,8 @@ Item {
                 }
 
                 EmptyHint {
-                    parent: paidOrders
-                    visible: paidOrders.count === 0
+                    parent: recentList
+                    visible: recentList.count === 0
                     text: qsTranslate("Hints", "Nothing paid yet. An order appears here once it is paid.")
                 }
             }

@@ -88,11 +88,12 @@ Rectangle {
             id: slideGuard
         }
 
-        ScrollList {
+        ScrollingList {
             id: cards
 
             Layout.fillWidth: true
             Layout.fillHeight: true
+            reuseItems: false
             spacing: 12
             model: ids
 
@@ -102,7 +103,7 @@ Rectangle {
             delegate: KitchenCard {
                 required property int orderId
 
-                width: ListView.view.width
+                width: cards.rowWidth
                 // A card that is about to go has no order any more.
                 order: column.orders[orderId] ?? { items: [] }
                 noteTitle: qsTr("NOTE: ")

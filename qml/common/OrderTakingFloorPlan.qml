@@ -163,6 +163,9 @@ Item {
                         contentHeight: 1200
                         boundsBehavior: Flickable.StopAtBounds
 
+                        ScrollBar.horizontal: RestingScrollBar {}
+                        ScrollBar.vertical: RestingScrollBar {}
+
                         FlickGuard {
                             list: sheet
                         }

@@ -29,6 +29,14 @@ Item {
     property bool allowEditAfterSend: false
     property string currencySymbol: ""
 
+    // What the margins and gaps leave. Dishes and order share it; on a small screen first the
+    // categories give way, then the order, then the portions, and the names of the dishes last.
+    readonly property real room: width - 32
+    readonly property real dishesWidth: 372
+    readonly property real categoriesWidth: Math.max(160, Math.min(220, room - 2 * dishesWidth))
+    readonly property real orderWidth: Math.min((room - categoriesWidth) / 2, Math.max(310, room - categoriesWidth - dishesWidth))
+    readonly property real portionWidth: room - categoriesWidth - orderWidth < 400 ? 72 : 100
+
     function changeOrderType(orderType: string) {
         currentOrderType = orderType
     }
@@ -126,6 +134,7 @@ Item {
 
     ColumnLayout {
         anchors.fill: parent
+        anchors.margins: 8
         spacing: 8
 
         RowLayout {
@@ -154,12 +163,12 @@ Item {
             spacing: 8
 
             CategoryList {
+                Layout.preferredWidth: root.categoriesWidth
                 title: qsTr("Categories")
                 rowSpacing: 0
             }
 
             MenuItemList {
-                Layout.preferredWidth: 1
                 title: qsTr("Menu Items")
                 noCategoryTitle: qsTr("Select a category")
                 itemTitle: qsTr("Item")
@@ -168,24 +177,26 @@ Item {
                 unavailableText: qsTr("Unavailable")
                 addText: qsTr("Add")
                 currencySymbol: root.currencySymbol
+                portionWidth: root.portionWidth
                 rowHeight: 44
                 addSidePadding: 15
                 addEndPadding: 5
-                onAddRequested: (menuItemId, name, price) => OrderLines.add(orderModel, menuItemId, name, price)
+                onAddRequested: (menuItemId, name, price) => lineList.showLine(OrderLines.add(orderModel, menuItemId, name, price))
             }
 
             Rectangle {
-                Layout.fillWidth: true
                 Layout.fillHeight: true
-                Layout.preferredWidth: 1
+                Layout.preferredWidth: root.orderWidth
                 radius: 6
                 color: Theme.background
 
                 ColumnLayout {
                     anchors.fill: parent
+                    anchors.rightMargin: 6
                     spacing: 2
 
-                    RowLayout {
+                    Flow {
+                        Layout.fillWidth: true
                         spacing: 8
 
                         TopButton {
@@ -226,6 +237,8 @@ Item {
                     }
 
                     OrderLineList {
+                        id: lineList
+
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                         visible: !root.showEditOrdersList
@@ -253,7 +266,7 @@ Item {
                         delegate: OpenOrderRow {
                             required property var modelData
 
-                            width: ListView.view.width
+                            width: openOrders.rowWidth
                             order: modelData
                             onClicked: root.editOrder(order)
                         }

@@ -39,7 +39,7 @@ Item {
             delegate: CategoryRow {
                 required property var model
 
-                width: ListView.view.width
+                width: list.rowWidth
                 text: model.name
                 selected: model.id === MenuService.currentCategoryId
                 onClicked: MenuService.currentCategoryId = model.id

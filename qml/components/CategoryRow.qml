@@ -13,7 +13,7 @@ Rectangle {
 
     signal clicked
 
-    implicitHeight: 44
+    implicitHeight: Math.max(44, label.implicitHeight + 8)
     radius: 4
     color: selected ? Theme.primary() : "transparent"
 
@@ -23,14 +23,15 @@ Rectangle {
     Accessible.selected: selected
     Accessible.onPressAction: root.clicked()
 
-    PlainLabel {
+    NameLabel {
+        id: label
+
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         text: root.text
         color: root.selected ? "white" : Theme.text
-        elide: Text.ElideRight
     }
 
     MouseArea {

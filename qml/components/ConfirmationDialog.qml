@@ -16,6 +16,9 @@ ModalFrame {
     // The buttons can still be pressed while the dialog fades away.
     property bool answered: false
 
+    // A message that is longer than the dialog gets smaller letters and tighter margins.
+    readonly property bool tight: sample.implicitHeight > 44
+
     function finish(confirmed: bool): void {
         if (root.answered)
             return
@@ -29,6 +32,7 @@ ModalFrame {
     closePolicy: Popup.NoAutoClose
     width: 360
     height: 180
+    padding: tight ? 12 : 20
 
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: 120 }
@@ -39,7 +43,16 @@ ModalFrame {
     }
 
     contentItem: ColumnLayout {
-        spacing: 15
+        spacing: root.tight ? 6 : 15
+
+        PlainLabel {
+            id: sample
+
+            text: root.message
+            visible: false
+            width: 320
+            wrapMode: Text.Wrap
+        }
 
         PlainLabel {
             Layout.fillWidth: true
@@ -48,13 +61,25 @@ ModalFrame {
             text: root.title
         }
 
-        PlainLabel {
+        Flickable {
             Layout.fillHeight: true
             Layout.fillWidth: true
-            color: Theme.secondaryText
-            elide: Text.ElideRight
-            text: root.message
-            wrapMode: Text.Wrap
+            Layout.rightMargin: root.tight ? -10 : 0
+            boundsBehavior: Flickable.StopAtBounds
+            clip: true
+            contentHeight: messageLabel.implicitHeight
+
+            ScrollBar.vertical: RestingScrollBar {}
+
+            PlainLabel {
+                id: messageLabel
+
+                width: parent.width - (root.tight ? 10 : 0)
+                color: Theme.secondaryText
+                font.pixelSize: root.tight ? 12 : Theme.fontNormal
+                text: root.message
+                wrapMode: Text.Wrap
+            }
         }
 
         RowLayout {

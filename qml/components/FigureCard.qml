@@ -34,6 +34,8 @@ Rectangle {
             font.pixelSize: Theme.fontLarge
             opacity: 0.7
             elide: Text.ElideRight
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
         }
 
         PlainLabel {
@@ -43,6 +45,9 @@ Rectangle {
             font.bold: true
             font.pixelSize: Theme.fontXL
             elide: Text.ElideRight
+            // A large figure gets smaller before it is cut off.
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
         }
 
         PlainLabel {

@@ -27,10 +27,11 @@ Rectangle {
             text: root.title
         }
 
-        ScrollList {
+        ScrollingList {
+            id: list
+
             Layout.fillWidth: true
             Layout.fillHeight: true
-            reuseItems: true
             spacing: 8
             model: root.rows
 
@@ -42,16 +43,15 @@ Rectangle {
 
                 required property var modelData
 
-                width: ListView.view.width
+                width: list.rowWidth
 
                 Accessible.role: Accessible.ListItem
                 Accessible.name: row.modelData.text
                 Accessible.description: row.modelData.figure
 
-                PlainLabel {
+                NameLabel {
                     Layout.fillWidth: true
                     text: row.modelData.text
-                    elide: Text.ElideRight
                 }
 
                 PlainLabel {

@@ -5,7 +5,7 @@ import zelvan
 
 // A list whose rows are chosen by keys as well: Tab reaches it, the arrows walk through it, Return and
 // Space do to the row what a click does.
-ScrollList {
+ScrollingList {
     id: root
 
     // The row's function or signal.
@@ -20,7 +20,6 @@ ScrollList {
 
     activeFocusOnTab: true
     highlightMoveDuration: 0
-    reuseItems: true
 
     highlight: RowRing {
         view: root

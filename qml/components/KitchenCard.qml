@@ -58,11 +58,13 @@ Rectangle {
             }
 
             // The word before the name is English in every language.
-            PlainLabel {
+            NameLabel {
+                Layout.fillWidth: true
                 Layout.maximumWidth: root.width / 2
+                horizontalAlignment: Text.AlignRight
+                lead: 6
                 visible: (root.order.table_name ?? null) !== null
                 text: "Table " + root.order.table_name
-                elide: Text.ElideRight
             }
         }
 

@@ -22,11 +22,23 @@ Item {
     property int addSidePadding: 8
     property int addEndPadding: 6
     readonly property bool chosen: MenuService.currentCategoryId !== -1
+    property real portionWidth: 100
+    readonly property real addWidth: Math.max(60, Math.ceil(addSample.implicitWidth))
 
     signal addRequested(int menuItemId, string name, real price)
 
     Layout.fillWidth: true
     Layout.fillHeight: true
+
+    // How wide the buttons of the rows are, for the heads of their columns.
+    FilledButton {
+        id: addSample
+
+        leftPadding: root.addSidePadding
+        rightPadding: root.addSidePadding
+        text: root.addText
+        visible: false
+    }
 
     ColumnLayout {
         anchors.fill: parent
@@ -38,29 +50,31 @@ Item {
             font.bold: true
         }
 
-        RowLayout {
+        // Placed by hand, since a layout does not always follow when a width of its columns changes.
+        Row {
+            id: heads
+
             Layout.fillWidth: true
             Layout.preferredHeight: 36
             visible: root.chosen
             spacing: 8
 
             TableHeaderLabel {
-                Layout.fillWidth: true
+                anchors.verticalCenter: parent.verticalCenter
+                width: heads.width - 70 - root.portionWidth - root.addWidth - 24
                 text: root.itemTitle
             }
 
             TableHeaderLabel {
-                Layout.preferredWidth: 70
+                anchors.verticalCenter: parent.verticalCenter
+                width: 70
                 text: root.priceTitle
             }
 
             TableHeaderLabel {
-                Layout.preferredWidth: 100
+                anchors.verticalCenter: parent.verticalCenter
+                width: root.portionWidth
                 text: root.portionTitle
-            }
-
-            Item {
-                Layout.preferredWidth: 60
             }
         }
 
@@ -80,8 +94,8 @@ Item {
             delegate: MenuItemRow {
                 required property var model
 
-                width: ListView.view.width
-                height: root.rowHeight
+                width: list.rowWidth
+                height: Math.max(root.rowHeight, implicitHeight + 8)
                 name: model.item
                 price: root.currencySymbol + model.price.toFixed(2)
                 portion: model.portion
@@ -90,6 +104,8 @@ Item {
                 addText: root.addText
                 addSidePadding: root.addSidePadding
                 addEndPadding: root.addEndPadding
+                addWidth: root.addWidth
+                portionWidth: root.portionWidth
                 onAddRequested: root.addRequested(model.id, model.item, model.price)
             }
 

@@ -17,6 +17,8 @@ RowLayout {
     required property string addText
     required property int addSidePadding
     required property int addEndPadding
+    required property real addWidth
+    required property real portionWidth
     readonly property color textColor: available ? Theme.text : Theme.secondaryText
 
     signal addRequested
@@ -37,11 +39,10 @@ RowLayout {
         Layout.minimumWidth: 40
         spacing: 0
 
-        PlainLabel {
+        NameLabel {
             Layout.fillWidth: true
             text: root.name
             color: root.textColor
-            elide: Text.ElideRight
         }
 
         PlainLabel {
@@ -58,15 +59,14 @@ RowLayout {
         color: root.textColor
     }
 
-    PlainLabel {
-        Layout.preferredWidth: 100
+    NameLabel {
+        Layout.preferredWidth: root.portionWidth
         text: root.portion || "-"
         color: root.textColor
-        elide: Text.ElideRight
     }
 
     FilledButton {
-        Layout.preferredWidth: Math.max(60, implicitWidth)
+        Layout.preferredWidth: root.addWidth
         enabled: root.available
         dimmed: false
         focusPolicy: Qt.NoFocus

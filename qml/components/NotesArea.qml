@@ -14,6 +14,13 @@ ScrollView {
     property alias text: area.text
     property alias placeholderText: area.placeholderText
 
+    ScrollBar.vertical: RestingScrollBar {
+        anchors.bottom: parent.bottom
+        anchors.margins: 2
+        anchors.right: parent.right
+        anchors.top: parent.top
+    }
+
     background: Rectangle {
         radius: 4
         color: Theme.background
@@ -29,6 +36,7 @@ ScrollView {
         font.pixelSize: Theme.fontNormal
         textFormat: TextEdit.PlainText
         wrapMode: TextArea.Wrap
+        rightPadding: 14
         background: null
         onActiveFocusChanged: if (!activeFocus) Typing.commit(area)
         Accessible.name: root.label

@@ -26,6 +26,14 @@ Rectangle {
     property var kitchenSettings: ({})
     property string currencySymbol: ""
 
+    // What the margins and gaps leave. On a small screen first the order gives way, then the
+    // categories, then the portions, and the names of the dishes last.
+    readonly property real room: width - 32
+    readonly property real dishesWidth: 372
+    readonly property real orderWidth: Math.max(310, Math.min(420, room - 220 - dishesWidth))
+    readonly property real categoriesWidth: Math.max(160, Math.min(220, room - orderWidth - dishesWidth))
+    readonly property real portionWidth: room - categoriesWidth - orderWidth < 400 ? 72 : 100
+
     function recomputeMeta() {
         const sums = OrderLines.sums(orderModel)
         subtotal = sums.subtotal
@@ -106,6 +114,7 @@ Rectangle {
             spacing: 8
 
             CategoryList {
+                Layout.preferredWidth: root.categoriesWidth
                 title: qsTr("Categories")
             }
 
@@ -118,11 +127,12 @@ Rectangle {
                 unavailableText: qsTr("Unavailable")
                 addText: qsTr("Add")
                 currencySymbol: root.currencySymbol
-                onAddRequested: (menuItemId, name, price) => OrderLines.add(orderModel, menuItemId, name, price)
+                portionWidth: root.portionWidth
+                onAddRequested: (menuItemId, name, price) => lineList.showLine(OrderLines.add(orderModel, menuItemId, name, price))
             }
 
             Item {
-                Layout.preferredWidth: 420
+                Layout.preferredWidth: root.orderWidth
                 Layout.fillHeight: true
 
                 ColumnLayout {
@@ -135,6 +145,8 @@ Rectangle {
                     }
 
                     OrderLineList {
+                        id: lineList
+
                         Layout.fillWidth: true
                         Layout.fillHeight: true
                         spacing: 6

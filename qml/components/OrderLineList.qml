@@ -5,7 +5,7 @@ import zelvan
 
 // The lines of the order being keyed in. The texts are the screen's, so that they are translated
 // with it; without a placeholder for remarks the lines have no field for one.
-ScrollList {
+ScrollingList {
     id: root
 
     required property ListModel lines
@@ -17,6 +17,13 @@ ScrollList {
     // Qt.NoFocus where the buttons of the screen leave the focus where it is.
     property int buttonPolicy: Qt.StrongFocus
 
+    // A line that was just added or counted up comes into view.
+    function showLine(row: int): void {
+        forceLayout()
+        positionViewAtIndex(row, ListView.Contain)
+    }
+
+    reuseItems: false
     // Far rows stay made, so that a remark typed into one is still shown there.
     cacheBuffer: 4000
     model: lines
@@ -37,8 +44,8 @@ ScrollList {
     delegate: OrderLineRow {
         required property var model
 
-        width: ListView.view.width
-        height: root.rowHeight
+        width: root.rowWidth
+        height: Math.max(root.rowHeight, implicitHeight)
         name: model.name
         price: root.currencySymbol + model.price.toFixed(2)
         quantity: model.qty

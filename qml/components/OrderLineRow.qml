@@ -16,11 +16,16 @@ Rectangle {
     required property string removeText
     property string remarkPlaceholder
     property int buttonPolicy: Qt.StrongFocus
+    // What was typed, kept while the field changes its place.
+    property string remark
+    // In a narrow row the remark stands under its dish.
+    readonly property bool wide: width >= 400
 
     signal stepped(int quantity)
     signal remarkEdited(string remark)
     signal removeRequested
 
+    implicitHeight: lines.implicitHeight + 12
     radius: 4
     color: Theme.surface
 
@@ -28,51 +33,80 @@ Rectangle {
     Accessible.name: name
     Accessible.description: quantity + " × " + price
 
-    RowLayout {
-        anchors.fill: parent
-        anchors.margins: 6
-        spacing: 6
-
-        ColumnLayout {
-            Layout.fillWidth: true
-            Layout.minimumWidth: 40
-            spacing: 0
-
-            PlainLabel {
-                Layout.fillWidth: true
-                text: root.name
-                elide: Text.ElideRight
-            }
-
-            PlainLabel {
-                text: root.price
-                color: Theme.secondaryText
-                font.pixelSize: Theme.fontSmall
-            }
-        }
-
-        QuantityStepper {
-            buttonPolicy: root.buttonPolicy
-            quantity: root.quantity
-            label: root.name
-            onStepped: quantity => root.stepped(quantity)
-        }
+    Component {
+        id: remarkField
 
         ThemedField {
-            Layout.preferredWidth: 100
-            Layout.preferredHeight: 36
-            visible: root.remarkPlaceholder !== ""
-            padding: 6
+            font.pixelSize: Theme.fontSmall - 1
+            padding: 4
             placeholderText: root.remarkPlaceholder
-            onTextChanged: root.remarkEdited(text)
+            text: root.remark
+            onTextChanged: {
+                root.remark = text
+                root.remarkEdited(text)
+            }
+        }
+    }
+
+    ColumnLayout {
+        id: lines
+
+        anchors.fill: parent
+        anchors.margins: 6
+        spacing: 4
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            spacing: 6
+
+            ColumnLayout {
+                Layout.fillWidth: true
+                Layout.minimumWidth: 40
+                spacing: 0
+
+                NameLabel {
+                    Layout.fillWidth: true
+                    text: root.name
+                }
+
+                PlainLabel {
+                    text: root.price
+                    color: Theme.secondaryText
+                    font.pixelSize: Theme.fontSmall
+                }
+            }
+
+            QuantityStepper {
+                buttonPolicy: root.buttonPolicy
+                quantity: root.quantity
+                label: root.name
+                onStepped: quantity => root.stepped(quantity)
+            }
+
+            Loader {
+                Layout.preferredHeight: 36
+                Layout.preferredWidth: 100
+                active: root.remarkPlaceholder !== "" && root.wide
+                sourceComponent: remarkField
+                visible: active
+            }
+
+            FilledButton {
+                focusPolicy: root.buttonPolicy
+                text: root.removeText
+                fillColor: "#ff4d4d"
+                Accessible.description: root.name
+                onClicked: root.removeRequested()
+            }
         }
 
-        FilledButton {
-            focusPolicy: root.buttonPolicy
-            text: root.removeText
-            fillColor: "#ff4d4d"
-            Accessible.description: root.name
-            onClicked: root.removeRequested()
+        Loader {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 36
+            active: root.remarkPlaceholder !== "" && !root.wide
+            sourceComponent: remarkField
+            visible: active
         }
     }
 }

@@ -4,15 +4,16 @@
 
 // What both order screens do with the list model of the lines being keyed in.
 
-// One item never takes two lines.
+// One item never takes two lines. Answers the line's row.
 function add(lines, menuItemId, name, price) {
     for (let i = 0; i < lines.count; ++i) {
         if (lines.get(i).menuItemId === menuItemId) {
             lines.setProperty(i, "qty", lines.get(i).qty + 1)
-            return
+            return i
         }
     }
     lines.append({ menuItemId: menuItemId, name: name, qty: 1, price: price, notes: "" })
+    return lines.count - 1
 }
 
 // The lines as the order service takes them.

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import zelvan
 import zelvan.Theme 1.0
 
-// A titled table of a report. A column is `{ title, width, text }`: its heading, its width (0 takes
-// the rest) and the function from a row to its text. The rows on screen are all that is made.
+// A titled table of a report. A column is `{ title, width, least, text }`: its heading, its width (0
+// takes the rest) and what it shrinks to before the rest gets narrow, and the function from a row to
+// its text. The rows on screen are all that is made.
 ColumnLayout {
     id: root
 
@@ -16,9 +16,33 @@ ColumnLayout {
     required property var columns
     required property var rows
 
+    // How much of what they may give the columns keep: all of it, down to none.
+    readonly property real kept: {
+        let wanted = restWidth + 24
+        let least = restWidth + 24
+        for (const column of columns) {
+            wanted += column.width + 8
+            least += (column.least || column.width) + 8
+        }
+        return Math.max(0, Math.min(1, (width - least) / Math.max(1, wanted - least)))
+    }
+    readonly property real restWidth: 140
+
+    function columnWidth(column: var): real {
+        if (column.width > 0)
+            return keptWidth(column)
+        const others = columns.reduce((sum, other) => sum + keptWidth(other), 8 * (columns.length - 1))
+        return Math.max(0, width - 24 - others)
+    }
+
+    function keptWidth(column: var): real {
+        const least = column.least || column.width
+        return Math.floor(least + (column.width - least) * kept)
+    }
+
     spacing: 8
 
-    component Cells: RowLayout {
+    component Cells: Row {
         id: cells
 
         // Null in the heading.
@@ -29,16 +53,21 @@ ColumnLayout {
         Repeater {
             model: root.columns
 
-            PlainLabel {
+            NameLabel {
                 required property var modelData
+                // The column of the rest holds names; figures get smaller before they are cut off.
+                readonly property bool rest: modelData.width === 0
 
-                Layout.fillWidth: modelData.width === 0
-                Layout.preferredWidth: modelData.width || 1
+                anchors.verticalCenter: parent?.verticalCenter
+                width: root.columnWidth(modelData)
                 text: cells.row ? modelData.text(cells.row) : modelData.title
                 color: cells.row ? Theme.text : Theme.secondaryText
                 font.bold: !cells.row
                 font.pixelSize: Theme.fontSmall
-                elide: Text.ElideRight
+                elide: rest && narrow ? Text.ElideNone : Text.ElideRight
+                fontSizeMode: rest ? Text.FixedSize : Text.HorizontalFit
+                minimumPixelSize: 8
+                wrapMode: rest && narrow ? Text.Wrap : Text.NoWrap
             }
         }
     }
@@ -54,16 +83,15 @@ ColumnLayout {
         Layout.rightMargin: 12
     }
 
-    ScrollList {
+    ScrollingList {
+        id: list
+
         Layout.fillWidth: true
         Layout.fillHeight: true
-        reuseItems: true
         model: root.rows
 
         Accessible.role: Accessible.List
         Accessible.name: root.title
-
-        ScrollBar.vertical: ScrollBar {}
 
         delegate: Rectangle {
             id: rowItem
@@ -71,14 +99,16 @@ ColumnLayout {
             required property var modelData
             required property int index
 
-            width: ListView.view.width
-            height: 42
+            width: list.rowWidth
+            height: Math.max(42, cells.implicitHeight + 4)
             color: index % 2 === 0 ? Theme.background : Theme.surface
 
             Accessible.role: Accessible.ListItem
             Accessible.name: root.columns.map((column, place) => (place > 0 ? column.title + " " : "") + column.text(modelData)).join(", ")
 
             Cells {
+                id: cells
+
                 anchors.fill: parent
                 anchors.leftMargin: 12
                 anchors.rightMargin: 12

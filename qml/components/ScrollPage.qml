@@ -19,6 +19,11 @@ Rectangle {
     ScrollView {
         id: scroller
 
+        ScrollBar.vertical: RestingScrollBar {
+            anchors.bottom: parent.bottom
+            anchors.right: parent.right
+            anchors.top: parent.top
+        }
         anchors.bottom: footerRow.top
         anchors.bottomMargin: 10
         anchors.left: parent.left

@@ -16,7 +16,7 @@ Rectangle {
 
     signal clicked
 
-    implicitHeight: 72
+    implicitHeight: Math.max(72, lines.implicitHeight + 24)
     radius: 6
     color: selected ? Theme.surface : Theme.background
     border.width: 2
@@ -30,6 +30,8 @@ Rectangle {
     Accessible.onPressAction: root.clicked()
 
     Column {
+        id: lines
+
         anchors.fill: parent
         anchors.margins: 12
         spacing: 4
@@ -39,11 +41,11 @@ Rectangle {
             font.bold: true
         }
 
-        PlainLabel {
+        NameLabel {
             width: parent.width
+            lead: 6
             text: root.subtitle
             color: root.subtitleColor
-            elide: Text.ElideRight
         }
     }
 

@@ -47,7 +47,8 @@ ColumnLayout {
         Accessible.role: Accessible.List
         Accessible.name: root.title
 
-        ScrollBar.vertical: ScrollBar {
+        ScrollBar.vertical: RestingScrollBar {
+            padding: 0
             width: 4
         }
 

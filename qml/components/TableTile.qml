@@ -42,10 +42,20 @@ Item {
             font.bold: true
             elide: Text.ElideRight
             // A name gets smaller before it is cut off: "Table 10" and "Table 11" differ at their ends.
-            fontSizeMode: Text.HorizontalFit
+            // A long one takes further lines.
+            fontSizeMode: smallest.advanceWidth > width ? Text.Fit : Text.HorizontalFit
             minimumPixelSize: 8
+            wrapMode: smallest.advanceWidth > width ? Text.Wrap : Text.NoWrap
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
+
+            TextMetrics {
+                id: smallest
+
+                font.bold: true
+                font.pixelSize: 8
+                text: root.name.slice(0, 12) + "…"
+            }
         }
     }
 

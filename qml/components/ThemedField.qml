@@ -13,6 +13,24 @@ TextField {
     property string label: placeholderText
     property color fillColor: Theme.background
     readonly property alias hasMenuOpen: contextMenu.isOpen
+    property bool cleaning: false
+
+    // A line takes no line breaks and no other control characters, typed or pasted: a break becomes a
+    // blank, and all others go. Where they stand, so that the cursor and what can be undone stay.
+    function keepOneLine(): void {
+        const unfit = /[\u0000-\u001f\u007f-\u009f\u2028\u2029]+/
+        if (cleaning)
+            return
+        cleaning = true
+        for (let run = unfit.exec(text); run; run = unfit.exec(text)) {
+            const start = run.index
+            const breaksLine = /[\n-\r\u0085\u2028\u2029]/.test(run[0])
+            control.remove(start, start + run[0].length)
+            if (breaksLine)
+                control.insert(start, " ")
+        }
+        cleaning = false
+    }
 
     Accessible.name: label
     Accessible.editable: !readOnly
@@ -25,6 +43,8 @@ TextField {
     selectByMouse: true
     selectedTextColor: "white"
     selectionColor: Theme.primary()
+
+    onTextChanged: keepOneLine()
 
     background: Rectangle {
         border.color: control.activeFocus ? Theme.primary() : Theme.border

@@ -139,6 +139,13 @@ QVariantList QmlTestStore::accessibleTree() const
     return found;
 }
 
+void QmlTestStore::finishComposing(const QString &text) const
+{
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+}
+
 QStringList QmlTestStore::documents() const
 {
     QStringList documents;

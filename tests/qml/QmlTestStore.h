@@ -41,6 +41,8 @@ public:
 
     /// Gives the field in focus a text that an input method is still composing.
     Q_INVOKABLE void compose(const QString &text) const;
+    /// Hands it over what the input method made of it.
+    Q_INVOKABLE void finishComposing(const QString &text) const;
 
     /// Has the screens made from now on speak to a screen reader.
     Q_INVOKABLE void startScreenReader() const;

@@ -90,6 +90,25 @@ ZelvanTestCase {
         verify(label.contentWidth <= label.width)
     }
 
+    function test_a_message_of_a_long_name_is_seen_whole_data() {
+        const chinese = "炭火烧烤与铁板烧什锦拼盘类菜单".repeat(3).slice(0, 40)
+        return [
+            { tag: "English", name: "Charcoal Roasts, Grills and Hot Sizzlers", message: "Are you sure you want to delete \"%1\"? All menu items within \"%1\" will be deleted." },
+            { tag: "Chinese", name: chinese, message: "确定要删除“%1”吗？“%1”中的所有菜品都将被删除。" }
+        ]
+    }
+
+    function test_a_message_of_a_long_name_is_seen_whole(data) {
+        const message = data.message.replace(/%1/g, data.name)
+        open({ title: "Delete Category", message: message })
+
+        const label = theShown(item => item.text === message, "the message")
+        compare([dialog.width, dialog.height], [360, 180])
+        verify(!label.truncated)
+        verify(label.contentHeight <= label.parent.parent.height, label.contentHeight + " of " + label.parent.parent.height)
+        verify(button("Delete").mapToItem(label.parent.parent, 0, 0).y >= label.parent.parent.height)
+    }
+
     function test_markup_in_the_message_is_shown_as_it_was_typed() {
         open({ message: "Delete \"<b>x</b>\"?" })
 

@@ -314,7 +314,7 @@ ZelvanTestCase {
         compare(row("Food").height, 44)
         compare(row("Burger").height, 44)
         press("Add", 1)
-        const line = button("Remove").parent.parent
+        const line = button("Remove").parent.parent.parent
         const tile = row("Window").children[0]
 
         compare(line.height, 56)
@@ -328,6 +328,53 @@ ZelvanTestCase {
         compare(button("Edit Order").background.color, "#5f7ddc")
         compare(button("Remove").background.color, "#ff4d4d")
         compare(openEditList()[0].height, 75)
+    }
+
+    function test_the_heads_stand_over_their_columns() {
+        show("common/OrderTakingSimple")
+
+        const price = theShown(item => item.text === "Price", "the price's head")
+        const portion = theShown(item => item.text === "Portion", "the portion's head")
+        const burger = row("Burger")
+        compare(burger.children[1].mapToItem(page, 0, 0).x, price.mapToItem(page, 0, 0).x)
+        compare(burger.children[2].mapToItem(page, 0, 0).x, portion.mapToItem(page, 0, 0).x)
+    }
+
+    function test_a_remark_stands_under_its_dish_in_a_narrow_row() {
+        show("common/OrderTakingSimple")
+        press("Add", 1)
+        const beside = field("Add a remark").mapToItem(button("Remove"), 0, 0)
+        verify(beside.y < button("Remove").height)
+
+        keyClickInto(field("Add a remark"), "mild")
+        page.width = 874
+        settle()
+
+        const under = field("Add a remark")
+        verify(under.mapToItem(button("Remove"), 0, 0).y >= button("Remove").height)
+        compare(under.text, "mild")
+        press("Place Order")
+        compare(TestDb.value("SELECT notes FROM order_items"), "mild")
+    }
+
+    function keyClickInto(input, text: string) {
+        input.forceActiveFocus()
+        for (const character of text)
+            keyClick(character)
+    }
+
+    function test_a_line_that_is_added_comes_into_view() {
+        for (let i = 0; i < 20; ++i)
+            addItem("Dish " + i, food, 1)
+        show("common/OrderTakingSimple")
+        const list = theShown(item => item.rowWidth !== undefined && item.Accessible.name === "Current Order", "the lines")
+        for (let i = 0; i < 14; ++i)
+            press("Add", i)
+
+        verify(list.contentHeight > list.height)
+        verify(list.atYEnd)
+        press("Add", 0)
+        tryVerify(() => list.atYBeginning)
     }
 
     function test_tables_of_like_names_can_be_told_apart() {

@@ -149,6 +149,8 @@ Item {
         spacing: 0
 
         Rectangle {
+            id: tools
+
             Layout.fillWidth: true
             Layout.preferredHeight: 100
             color: Theme.background
@@ -169,7 +171,15 @@ Item {
                     clip: true
                     contentWidth: floorRow.width
 
-                    ScrollBar.horizontal: ScrollBar {}
+                    // Between the two rows of buttons.
+                    ScrollBar.horizontal: RestingScrollBar {
+                        parent: tools
+                        x: 10
+                        y: 10 + floorRow.height
+                        width: tools.width - 20
+                        height: 4
+                        padding: 0
+                    }
 
                     FlickGuard {
                         list: tabs

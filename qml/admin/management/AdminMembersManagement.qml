@@ -59,7 +59,7 @@ Rectangle {
         }
 
         KeyList {
-            id: members
+            id: memberList
 
             Layout.fillWidth: true
             Layout.fillHeight: true
@@ -72,7 +72,7 @@ Rectangle {
             delegate: MemberRow {
                 required property var model
 
-                width: ListView.view.width
+                width: memberList.rowWidth
                 phoneNumber: model.phoneNumber
                 totalPoints: model.totalPoints
                 status: model.status
@@ -83,8 +83,8 @@ Rectangle {
             }
 
             EmptyHint {
-                parent: members
-                visible: members.count === 0
+                parent: memberList
+                visible: memberList.count === 0
                 text: searchField.text === ""
                       ? qsTranslate("Hints", "No members yet. A phone number typed under Checkout becomes a member with the payment.")
                       : qsTranslate("Hints", "No member has this number.")

@@ -14,6 +14,14 @@ Rectangle {
     readonly property bool categorySelected: MenuService.currentCategoryId !== -1
     readonly property Item startItem: categorySelected ? itemForm.startItem : categoryPane.startItem
 
+    // On a small screen first the categories give way, then the boxes, then the portions, and the
+    // names of the dishes last; the other columns and the gaps are a little tighter there.
+    readonly property bool narrow: width < 1050
+    readonly property real categoriesWidth: Math.max(160, Math.min(220, width - 64 - 500))
+    readonly property real columnRoom: width - 64 - categoriesWidth - 238
+    readonly property real boxWidth: narrow ? Math.max(44, Math.min(100, (columnRoom - 320) / 2)) : 100
+    readonly property real portionWidth: narrow ? Math.max(72, Math.min(120, columnRoom - 200 - 2 * boxWidth)) : 120
+
     function confirmDeletion(title: string, message: string, remove: var): void {
         confirmationDialog.title = title
         confirmationDialog.message = message
@@ -47,8 +55,8 @@ Rectangle {
 
             Layout.fillHeight: true
             Layout.margins: 16
-            Layout.maximumWidth: 220
-            Layout.minimumWidth: 220
+            Layout.fillWidth: false
+            Layout.preferredWidth: root.categoriesWidth
 
             onDeleteRequested: (categoryId, name) => root.confirmCategoryDeletion(categoryId, name)
         }
@@ -72,11 +80,13 @@ Rectangle {
 
                 RowLayout {
                     anchors.fill: parent
-                    anchors.leftMargin: 12
-                    anchors.rightMargin: 12
-                    spacing: 12
+                    anchors.leftMargin: root.narrow ? 8 : 12
+                    anchors.rightMargin: root.narrow ? 8 : 12
+                    spacing: root.narrow ? 6 : 12
 
                     TableHeaderLabel {
+                        id: nameHead
+
                         Layout.fillWidth: true
                         Layout.minimumWidth: 80
                         Layout.preferredWidth: 200
@@ -84,37 +94,43 @@ Rectangle {
                     }
 
                     TableHeaderLabel {
-                        Layout.preferredWidth: 90
+                        Layout.preferredWidth: root.narrow ? 80 : 90
                         horizontalAlignment: Text.AlignRight
                         text: qsTr("Price")
                     }
 
                     TableHeaderLabel {
-                        Layout.fillWidth: true
+                        id: portionHead
+
+                        Layout.fillWidth: !root.narrow
                         Layout.maximumWidth: 120
                         Layout.minimumWidth: 50
-                        Layout.preferredWidth: 120
+                        Layout.preferredWidth: root.portionWidth
                         text: qsTr("Portion")
                     }
 
                     TableHeaderLabel {
-                        Layout.fillWidth: true
+                        Layout.fillWidth: !root.narrow
                         Layout.maximumWidth: 100
-                        Layout.minimumWidth: 60
-                        Layout.preferredWidth: 100
+                        Layout.minimumWidth: root.narrow ? 44 : 60
+                        Layout.preferredWidth: root.boxWidth
+                        fontSizeMode: Text.HorizontalFit
+                        minimumPixelSize: 8
                         text: qsTr("Available")
                     }
 
                     TableHeaderLabel {
-                        Layout.fillWidth: true
+                        Layout.fillWidth: !root.narrow
                         Layout.maximumWidth: 100
-                        Layout.minimumWidth: 60
-                        Layout.preferredWidth: 100
+                        Layout.minimumWidth: root.narrow ? 44 : 60
+                        Layout.preferredWidth: root.boxWidth
+                        fontSizeMode: Text.HorizontalFit
+                        minimumPixelSize: 8
                         text: qsTr("Taxable")
                     }
 
                     Item {
-                        Layout.preferredWidth: 160
+                        Layout.preferredWidth: root.narrow ? 112 : 160
                     }
                 }
             }
@@ -131,13 +147,18 @@ Rectangle {
                 delegate: EditableMenuItemRow {
                     required property var model
 
-                    width: ListView.view.width
+                    width: itemList.rowWidth
                     available: model.available
+                    boxWidth: root.boxWidth
                     currencySymbol: root.currencySymbol
                     drafts: rowDrafts
                     item: model.item
                     itemId: model.id
+                    nameRoom: nameHead.width
+                    narrow: root.narrow
                     portion: model.portion
+                    portionRoom: portionHead.width
+                    portionWidth: root.portionWidth
                     price: model.price
                     taxable: model.taxable
 
@@ -155,6 +176,7 @@ Rectangle {
                 id: itemForm
 
                 Layout.fillWidth: true
+                narrow: root.width < 924
                 visible: root.categorySelected
             }
 

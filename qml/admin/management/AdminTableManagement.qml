@@ -76,7 +76,7 @@ Rectangle {
         }
 
         EditableList {
-            id: list
+            id: tableList
 
             Layout.fillHeight: true
             Layout.fillWidth: true
@@ -86,7 +86,7 @@ Rectangle {
             delegate: EditableTableRow {
                 required property var model
 
-                width: ListView.view.width
+                width: tableList.rowWidth
                 capacity: model.capacity
                 drafts: rowDrafts
                 name: model.name
@@ -96,8 +96,8 @@ Rectangle {
             }
 
             EmptyHint {
-                parent: list
-                visible: list.count === 0
+                parent: tableList
+                visible: tableList.count === 0
                 text: qsTranslate("Hints", "No tables yet. Type a name below, then press Add Table.")
             }
         }

@@ -75,11 +75,12 @@ Item {
             }
         }
 
-        ScrollList {
+        ScrollingList {
+            id: userList
+
             Layout.fillHeight: true
             Layout.fillWidth: true
             model: UserService.userModel
-            reuseItems: true
             spacing: 4
 
             delegate: Rectangle {
@@ -90,8 +91,8 @@ Item {
                 required property string role
                 required property bool active
 
-                width: ListView.view.width
-                height: 44
+                width: userList.rowWidth
+                height: Math.max(44, nameLabel.implicitHeight + 8)
                 Accessible.name: row.username
                 Accessible.description: row.role + ", " + (row.active ? qsTr("Yes") : qsTr("No"))
                 Accessible.role: Accessible.ListItem
@@ -104,9 +105,10 @@ Item {
                     anchors.rightMargin: 12
                     spacing: 12
 
-                    PlainLabel {
+                    NameLabel {
+                        id: nameLabel
+
                         Layout.fillWidth: true
-                        elide: Text.ElideRight
                         text: row.username
                     }
 

@@ -68,7 +68,7 @@ Rectangle {
         root.deleteRequested(root.categoryId, root.name)
     }
 
-    height: 44
+    height: Math.max(44, label.implicitHeight + 8)
     Accessible.name: root.name
     Accessible.role: Accessible.ListItem
     Accessible.selectable: true
@@ -76,13 +76,14 @@ Rectangle {
     color: root.selected ? Theme.primary() : Theme.background
     radius: 4
 
-    PlainLabel {
+    NameLabel {
+        id: label
+
         anchors.fill: parent
         anchors.leftMargin: 12
         anchors.rightMargin: 4
         Accessible.ignored: true
         color: root.selected ? "white" : Theme.text
-        elide: Text.ElideRight
         text: root.name
         verticalAlignment: Text.AlignVCenter
         visible: !root.isEditing

@@ -19,6 +19,13 @@ Rectangle {
     property bool taxable
     property string currencySymbol
     property RowDrafts drafts
+    // As the page's column heads.
+    property bool narrow: false
+    property real boxWidth: 100
+    property real portionWidth: 120
+    // What the heads are given, from which the row knows its height before it is laid out.
+    property real nameRoom: 200
+    property real portionRoom: 120
     property bool isEditing: false
     property string editedName
     property string editedPrice
@@ -34,8 +41,8 @@ Rectangle {
         root.editedPortion = root.portion
         root.editedAvailable = root.available
         root.editedTaxable = root.taxable
-        root.isEditing = true
-        nameField.forceActiveFocus()
+        root.isEditing = true;
+        (root.narrow ? nameAbove : nameField).forceActiveFocus()
     }
 
     function cancel(): void {
@@ -84,7 +91,27 @@ Rectangle {
         root.isEditing = true
     }
 
-    height: 44
+    component BoxCell: ThemedCheckBox {
+        Layout.fillWidth: !root.narrow
+        Layout.maximumWidth: 100
+        Layout.minimumWidth: root.narrow ? 44 : 60
+        Layout.preferredWidth: root.boxWidth
+        enabled: root.isEditing
+    }
+
+    component NameField: ThemedField {
+        Layout.fillWidth: true
+        Layout.minimumWidth: 80
+        Layout.preferredHeight: 40
+        Layout.preferredWidth: 200
+        padding: 6
+        placeholderText: qsTranslate("AdminMenuManagement", "Item Name")
+        text: root.editedName
+
+        onTextEdited: root.editedName = text
+    }
+
+    height: isEditing ? narrow ? 92 : 44 : Math.max(44, 8 + Math.max(nameSample.implicitHeight, portionSample.implicitHeight))
     Accessible.name: root.item
     Accessible.description: root.currencySymbol + root.price.toFixed(2) + ", " + (root.portion || "-")
     Accessible.role: Accessible.ListItem
@@ -101,38 +128,58 @@ Rectangle {
             Fields.goOn(event, root, saveButton)
     }
 
+    NameLabel {
+        id: nameSample
+
+        text: root.item
+        visible: false
+        width: root.nameRoom
+    }
+
+    NameLabel {
+        id: portionSample
+
+        text: root.portion
+        visible: false
+        width: root.portionRoom
+    }
+
+    // While it is edited, a narrow row has the name over the rest.
+    NameField {
+        id: nameAbove
+
+        anchors.left: parent.left
+        anchors.margins: 8
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.topMargin: 4
+        height: 40
+        visible: root.isEditing && root.narrow
+    }
+
     RowLayout {
         anchors.fill: parent
-        anchors.leftMargin: 12
-        anchors.rightMargin: 12
-        spacing: 12
+        anchors.leftMargin: root.narrow ? 8 : 12
+        anchors.rightMargin: root.narrow ? 8 : 12
+        anchors.topMargin: root.isEditing && root.narrow ? 46 : 0
+        spacing: root.narrow ? 6 : 12
 
-        PlainLabel {
+        NameLabel {
             Layout.fillWidth: true
             Layout.minimumWidth: 80
             Layout.preferredWidth: 200
-            elide: Text.ElideRight
             text: root.item
             visible: !root.isEditing
         }
 
-        ThemedField {
+        NameField {
             id: nameField
 
-            Layout.fillWidth: true
-            Layout.preferredHeight: 40
-            Layout.minimumWidth: 80
-            Layout.preferredWidth: 200
-            padding: 6
-            placeholderText: qsTranslate("AdminMenuManagement", "Item Name")
-            text: root.editedName
-            visible: root.isEditing
-
-            onTextEdited: root.editedName = text
+            visible: root.isEditing && !root.narrow
         }
 
         PriceLabel {
-            Layout.preferredWidth: 90
+            Layout.preferredWidth: root.narrow ? 80 : 90
             horizontalAlignment: Text.AlignRight
             text: root.currencySymbol + root.price.toFixed(2)
             visible: !root.isEditing
@@ -140,7 +187,7 @@ Rectangle {
 
         PointField {
             Layout.preferredHeight: 40
-            Layout.preferredWidth: 90
+            Layout.preferredWidth: root.narrow ? 80 : 90
             horizontalAlignment: TextInput.AlignRight
             padding: 6
             placeholderText: qsTranslate("AdminMenuManagement", "Price")
@@ -150,12 +197,11 @@ Rectangle {
             onTextEdited: root.editedPrice = text
         }
 
-        PlainLabel {
-            Layout.fillWidth: true
+        NameLabel {
+            Layout.fillWidth: !root.narrow
             Layout.maximumWidth: 120
             Layout.minimumWidth: 50
-            Layout.preferredWidth: 120
-            elide: Text.ElideRight
+            Layout.preferredWidth: root.portionWidth
             text: root.portion === "" ? "-" : root.portion
             visible: !root.isEditing
         }
@@ -163,9 +209,9 @@ Rectangle {
         ThemedField {
             Layout.preferredHeight: 40
             Layout.fillWidth: true
-            Layout.maximumWidth: 120
-            Layout.minimumWidth: 50
-            Layout.preferredWidth: 120
+            Layout.maximumWidth: root.narrow ? 1000 : 120
+            Layout.minimumWidth: 110
+            Layout.preferredWidth: root.portionWidth
             padding: 6
             placeholderText: qsTranslate("AdminMenuManagement", "Portion")
             text: root.editedPortion
@@ -174,58 +220,56 @@ Rectangle {
             onTextEdited: root.editedPortion = text
         }
 
-        ThemedCheckBox {
-            Layout.fillWidth: true
-            Layout.maximumWidth: 100
-            Layout.minimumWidth: 60
-            Layout.preferredWidth: 100
+        BoxCell {
             Accessible.name: qsTranslate("AdminMenuManagement", "Available")
             checked: root.isEditing ? root.editedAvailable : root.available
-            enabled: root.isEditing
 
             onToggled: root.editedAvailable = checked
         }
 
-        ThemedCheckBox {
-            Layout.fillWidth: true
-            Layout.maximumWidth: 100
-            Layout.minimumWidth: 60
-            Layout.preferredWidth: 100
+        BoxCell {
             Accessible.name: qsTranslate("AdminMenuManagement", "Taxable")
             checked: root.isEditing ? root.editedTaxable : root.taxable
-            enabled: root.isEditing
 
             onToggled: root.editedTaxable = checked
         }
 
-        RowLayout {
-            Layout.maximumWidth: 160
-            Layout.minimumWidth: 160
-            spacing: 6
+        Item {
+            Layout.maximumWidth: root.narrow ? 112 : 160
+            Layout.minimumWidth: root.narrow ? 112 : 160
+            implicitHeight: buttons.implicitHeight
 
-            Item {
-                Layout.fillWidth: true
-            }
+            RowLayout {
+                id: buttons
 
-            RowButton {
-                id: saveButton
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 6
 
-                Accessible.description: root.item
-                focusPolicy: Qt.NoFocus
-                fillColor: Theme.primary()
-                text: root.isEditing ? qsTranslate("AdminMenuManagement", "Save")
-                                     : qsTranslate("AdminMenuManagement", "Edit")
+                RowButton {
+                    id: saveButton
 
-                onClicked: root.isEditing ? root.save() : root.startEditing()
-            }
+                    Accessible.description: root.item
+                    focusPolicy: Qt.NoFocus
+                    fillColor: Theme.primary()
+                    leftPadding: root.narrow ? 8 : 15
+                    rightPadding: leftPadding
+                    text: root.isEditing ? qsTranslate("AdminMenuManagement", "Save")
+                                         : qsTranslate("AdminMenuManagement", "Edit")
 
-            RowButton {
-                Accessible.description: root.item
-                focusPolicy: Qt.NoFocus
-                fillColor: "red"
-                text: qsTranslate("AdminMenuManagement", "Delete")
+                    onClicked: root.isEditing ? root.save() : root.startEditing()
+                }
 
-                onClicked: root.deleteRequested(root.itemId, root.item)
+                RowButton {
+                    Accessible.description: root.item
+                    focusPolicy: Qt.NoFocus
+                    fillColor: "red"
+                    leftPadding: root.narrow ? 8 : 15
+                    rightPadding: leftPadding
+                    text: qsTranslate("AdminMenuManagement", "Delete")
+
+                    onClicked: root.deleteRequested(root.itemId, root.item)
+                }
             }
         }
     }

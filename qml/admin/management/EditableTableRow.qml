@@ -72,7 +72,7 @@ Rectangle {
         root.isEditing = true
     }
 
-    height: 44
+    height: Math.max(44, nameLabel.implicitHeight + 8)
     Accessible.name: root.name
     Accessible.description: root.capacity
     Accessible.role: Accessible.ListItem
@@ -91,10 +91,11 @@ Rectangle {
         anchors.rightMargin: 8
         spacing: 10
 
-        PlainLabel {
+        NameLabel {
+            id: nameLabel
+
             Layout.fillWidth: true
             Layout.preferredWidth: 0
-            elide: Text.ElideRight
             text: root.name
             visible: !root.isEditing
         }

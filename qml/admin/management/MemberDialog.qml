@@ -98,7 +98,7 @@ ModalFrame {
                     Accessible.role: Accessible.List
                     Accessible.name: qsTranslate("AdminMembersManagement", "Transactions")
 
-                    ScrollBar.vertical: ScrollBar {}
+                    ScrollBar.vertical: RestingScrollBar {}
 
                     delegate: MemberTransactionRow {
                         required property var model

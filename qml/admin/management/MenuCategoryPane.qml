@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Layouts
 import Zelvan.Services 1.0
 import zelvan
+import zelvan.Theme 1.0
 import "../../components/Fields.js" as Fields
 
 // The categories and the field for a new one. The texts belong to the page of the menu.
@@ -46,7 +47,7 @@ ColumnLayout {
 
             required property var model
 
-            width: ListView.view.width
+            width: list.rowWidth
             categoryId: model.id
             name: model.name
 
@@ -75,6 +76,8 @@ ColumnLayout {
             id: newCategoryField
 
             Layout.fillWidth: true
+            font.pixelSize: root.width < 200 ? Theme.fontSmall : Theme.fontNormal
+            padding: root.width < 200 ? 6 : 10
             placeholderText: qsTranslate("AdminMenuManagement", "New category name")
         }
 

@@ -11,6 +11,7 @@ ColumnLayout {
     id: root
 
     readonly property Item startItem: nameField
+    property bool narrow: false
 
     function add(): void {
         const name = nameField.text.trim()
@@ -33,8 +34,12 @@ ColumnLayout {
 
     Keys.onPressed: event => Fields.goOn(event, root, addButton)
 
-    RowLayout {
-        spacing: 8
+    // On a small screen the boxes stand under the fields.
+    GridLayout {
+        Layout.fillWidth: true
+        columnSpacing: 8
+        columns: root.narrow ? 3 : 5
+        rowSpacing: 0
 
         ThemedField {
             id: nameField
@@ -48,7 +53,7 @@ ColumnLayout {
             id: priceField
 
             Layout.fillWidth: true
-            Layout.maximumWidth: 200
+            Layout.maximumWidth: root.narrow ? 110 : 200
             Layout.minimumWidth: 80
             Layout.preferredWidth: 200
             placeholderText: qsTranslate("AdminMenuManagement", "Price")
@@ -58,8 +63,8 @@ ColumnLayout {
             id: portionField
 
             Layout.fillWidth: true
-            Layout.maximumWidth: 150
-            Layout.minimumWidth: 80
+            Layout.maximumWidth: root.narrow ? 170 : 150
+            Layout.minimumWidth: root.narrow ? 170 : 80
             Layout.preferredWidth: 150
             placeholderText: qsTranslate("AdminMenuManagement", "Portion (optional)")
         }

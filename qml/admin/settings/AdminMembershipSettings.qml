@@ -60,6 +60,7 @@ SettingsPage {
         visible: enabledSwitch.checked
 
         SettingsRow {
+            labelWidth: root.width < 760 ? 200 : 230
             label: qsTr("Earn")
 
             WholeNumberField {
@@ -88,6 +89,7 @@ SettingsPage {
         }
 
         SettingsRow {
+            labelWidth: root.width < 760 ? 200 : 230
             label: qsTr("Earn Based On")
 
             ThemedComboBox {
@@ -108,6 +110,7 @@ SettingsPage {
         visible: enabledSwitch.checked
 
         SettingsRow {
+            labelWidth: root.width < 760 ? 200 : 230
             label: qsTr("Redemption")
 
             WholeNumberField {

@@ -96,16 +96,17 @@ ModalFrame {
                   : qsTranslate("AdminPrinterSettings", "Select a printer")
         }
 
-        ScrollList {
+        ScrollingList {
+            id: printerList
+
             Layout.fillWidth: true
             Layout.preferredHeight: 140
             model: printerRoot.portsModel
-            reuseItems: true
 
             delegate: ThemedRadioButton {
                 required property var modelData
 
-                width: ListView.view.width
+                width: printerList.rowWidth
                 checked: printerRoot.selectedPrinter === modelData.system_name
                 text: modelData.system_name
 

@@ -18,31 +18,54 @@ RowLayout {
         horizontalAlignment: Text.AlignRight
     }
 
-    RowLayout {
-        Layout.fillWidth: true
-        spacing: 6
+    // Placed by hand, since a layout that is given less room than before does not always follow.
+    Item {
+        id: dish
 
-        PlainLabel {
-            Layout.fillWidth: true
-            Layout.maximumWidth: Math.ceil(implicitWidth) + 1
-            text: root.line.item_name + (root.line.portion_size ? " (" + root.line.portion_size + ")" : "")
-            elide: Text.ElideRight
+        readonly property real gap: 6
+        readonly property bool noted: !!root.line.notes
+        readonly property real room: root.width - 244 - gap
+        // A remark stands beside its dish where both show their beginnings, else under it.
+        readonly property bool beside: noted && room >= nameLabel.leastWidth + remarkLabel.leastWidth
+        readonly property real share: room * nameText.advanceWidth / (nameText.advanceWidth + remarkText.advanceWidth)
+        readonly property real nameWidth: beside ? Math.min(Math.ceil(nameText.advanceWidth) + 2, Math.max(nameLabel.leastWidth, Math.min(share, room - remarkLabel.leastWidth), room - remarkText.advanceWidth)) : width
+
+        Layout.fillWidth: true
+        implicitHeight: beside ? Math.max(nameLabel.implicitHeight, remarkLabel.implicitHeight) : nameLabel.implicitHeight + (noted ? remarkLabel.implicitHeight : 0)
+
+        TextMetrics {
+            id: nameText
+
+            font: nameLabel.font
+            text: nameLabel.text
         }
 
-        PlainLabel {
-            Layout.fillWidth: true
-            visible: !!root.line.notes
+        TextMetrics {
+            id: remarkText
+
+            font: remarkLabel.font
+            text: remarkLabel.text
+        }
+
+        NameLabel {
+            id: nameLabel
+
+            y: dish.beside ? (dish.height - height) / 2 : 0
+            width: dish.nameWidth
+            text: root.line.item_name + (root.line.portion_size ? " (" + root.line.portion_size + ")" : "")
+        }
+
+        NameLabel {
+            id: remarkLabel
+
+            x: dish.beside ? nameLabel.width + dish.gap : 0
+            y: dish.beside ? (dish.height - height) / 2 : nameLabel.height
+            width: dish.width - x
+            visible: dish.noted
+            lead: 1
             text: "(" + root.line.notes + ")"
             color: Theme.orange
             font.pixelSize: Theme.fontSmall
-            elide: Text.ElideRight
-        }
-
-        // Pushes the name to the left.
-        Item {
-            Layout.fillWidth: true
-            Layout.maximumHeight: 1
-            visible: !root.line.notes
         }
     }
 

@@ -72,7 +72,7 @@ ColumnLayout {
             required property var modelData
 
             Layout.fillWidth: true
-            Layout.preferredHeight: 32
+            Layout.preferredHeight: Math.max(32, implicitHeight)
             line: modelData
         }
     }

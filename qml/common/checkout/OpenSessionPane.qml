@@ -20,10 +20,11 @@ ColumnLayout {
         text: root.session ? qsTranslate("Checkout", "Order #") + root.session.display_number : ""
     }
 
-    ScrollList {
+    ScrollingList {
+        id: bill
+
         Layout.fillWidth: true
         Layout.fillHeight: true
-        reuseItems: true
         spacing: 16
         model: root.page.checkoutDetails
 
@@ -33,7 +34,7 @@ ColumnLayout {
         delegate: BilledOrder {
             required property var modelData
 
-            width: ListView.view.width
+            width: bill.rowWidth
             order: modelData
             showsMark: root.page.requireReadyForCheckout
         }

@@ -20,10 +20,11 @@ ColumnLayout {
         text: qsTranslate("Checkout", "Order #") + root.details.display_number
     }
 
-    ScrollList {
+    ScrollingList {
+        id: bill
+
         Layout.fillWidth: true
         Layout.fillHeight: true
-        reuseItems: true
         spacing: 16
         model: root.details.orders
 
@@ -33,7 +34,7 @@ ColumnLayout {
         delegate: BilledOrder {
             required property var modelData
 
-            width: ListView.view.width
+            width: bill.rowWidth
             order: modelData
         }
     }

@@ -85,6 +85,12 @@ ModalFrame {
             contentWidth: availableWidth
             clip: true
 
+            ScrollBar.vertical: RestingScrollBar {
+                anchors.bottom: parent.bottom
+                anchors.right: parent.right
+                anchors.top: parent.top
+            }
+
             ColumnLayout {
                 width: scroller.availableWidth - 12
                 spacing: 8

@@ -37,11 +37,12 @@ Rectangle {
 
         anchors.fill: parent
         anchors.margins: 16
+        anchors.rightMargin: 4
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         contentHeight: content.implicitHeight
 
-        ScrollBar.vertical: ScrollBar {}
+        ScrollBar.vertical: RestingScrollBar {}
 
         FlickGuard {
             list: scroller
@@ -50,7 +51,7 @@ Rectangle {
         ColumnLayout {
             id: content
 
-            width: parent.width
+            width: parent.width - 12
             spacing: 12
 
             PageHeading {
