@@ -4,6 +4,7 @@
 
 #include "bench/BenchStore.h"
 #include "bench/PlainDatabase.h"
+#include "repositories/WorkingSet.h"
 
 #include <QDebug>
 #include <QFile>
@@ -44,21 +45,33 @@ private:
     QString m_prepared;
 };
 
-std::optional<QList<QList<RecordedStatement>>> recordOn(const Operation &operation,
-                                                        const QString &path, int rounds)
+/// What the first use after a start pays for.
+void learn()
+{
+    if (!WorkingSet::hasCalendar(DatabaseManager::connection())) {
+        qFatal("no working set");
+    }
+}
+
+std::optional<Recording> recordOn(const Operation &operation, const QString &path, int rounds)
 {
     BenchStore store(path);
-    operation.begin(store.services);
     StatementRecorder recorder(DatabaseManager::connection());
-    QList<QList<RecordedStatement>> statements;
+    learn();
+    Recording recording;
+    recording.firstUse = recorder.take();
+    operation.begin(store.services);
+    std::ignore = recorder.take();
+    const qint64 stepsBefore = recorder.steps();
     for (int round = 0; round < rounds; ++round) {
         if (!operation.run(store.services, round)) {
             qCritical() << operation.name << "failed in round" << round;
             return std::nullopt;
         }
-        statements.append(recorder.take());
+        recording.rounds.append(recorder.take());
     }
-    return statements;
+    recording.steps = (recorder.steps() - stepsBefore) / rounds;
+    return recording;
 }
 
 bool alike(const QString &one, const QString &other)
@@ -100,8 +113,8 @@ double Timing::medianOfProcessor() const
     return ::median(m_processor);
 }
 
-std::optional<QList<QList<RecordedStatement>>> recordStatements(const Operation &operation,
-                                                                const QString &history, int rounds)
+std::optional<Recording> recordStatements(const Operation &operation, const QString &history,
+                                          int rounds)
 {
     return recordOn(operation, Copies(operation, history).named(QStringLiteral("recorded.db")),
                     rounds);
@@ -110,27 +123,29 @@ std::optional<QList<QList<RecordedStatement>>> recordStatements(const Operation 
 std::optional<Comparison> compare(const Operation &operation, const QString &history, int rounds)
 {
     const Copies copies(operation, history);
-    const auto statements =
-        recordOn(operation, copies.named(QStringLiteral("recorded.db")), rounds);
-    if (!statements) {
+    const auto recording = recordOn(operation, copies.named(QStringLiteral("recorded.db")), rounds);
+    if (!recording) {
         return std::nullopt;
     }
     const QString operationFile = copies.named(QStringLiteral("operation.db"));
     const QString floorFile = copies.named(QStringLiteral("floor.db"));
     Comparison comparison;
-    comparison.statements = statements->constFirst().size();
+    comparison.statements = recording->rounds.constFirst().size();
+    comparison.steps = recording->steps;
     bool succeeded = true;
     {
         BenchStore store(operationFile);
+        comparison.firstUse.measure(learn);
         operation.begin(store.services);
         PlainDatabase floor(floorFile);
+        floor.replay(recording->firstUse);
         for (int round = 0; round < rounds; ++round) {
             const auto runOperation = [&] {
                 comparison.operation.measure(
                     [&] { succeeded = operation.run(store.services, round) && succeeded; });
             };
             const auto runFloor = [&] {
-                comparison.floor.measure([&] { floor.replay(statements->at(round)); });
+                comparison.floor.measure([&] { floor.replay(recording->rounds.at(round)); });
             };
             if (round % 2 == 0) {
                 runOperation();

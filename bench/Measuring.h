@@ -35,13 +35,27 @@ struct Comparison
     Timing operation;
     /// The same statements through the plain C interface, or the library call alone.
     Timing floor;
+    /// What is learned once a start, before the first of them.
+    Timing firstUse;
     /// Of one round.
     qsizetype statements = 0;
+    /// SQLite's own steps in one round: they grow with the rows that are looked at, on any
+    /// computer.
+    qint64 steps = 0;
+};
+
+/// What an operation asks of SQLite.
+struct Recording
+{
+    QList<RecordedStatement> firstUse;
+    QList<QList<RecordedStatement>> rounds;
+    /// Of a round, on average.
+    qint64 steps = 0;
 };
 
 /// What the operation asks of SQLite, round by round, on a copy of the file.
-[[nodiscard]] std::optional<QList<QList<RecordedStatement>>>
-recordStatements(const Operation &operation, const QString &history, int rounds);
+[[nodiscard]] std::optional<Recording> recordStatements(const Operation &operation,
+                                                        const QString &history, int rounds);
 
 /// Runs the operation on one copy of the file and its statements on another, in turn, the one and
 /// the other first. Nothing where the operation failed, or where the two files are not alike in the

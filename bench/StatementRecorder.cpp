@@ -126,7 +126,7 @@ private:
 StatementRecorder::StatementRecorder(const QSqlDatabase &database)
     : m_database(database)
 {
-    sqlite3_trace_v2(handleOf(m_database), SQLITE_TRACE_STMT, onTrace, this);
+    sqlite3_trace_v2(handleOf(m_database), SQLITE_TRACE_STMT | SQLITE_TRACE_PROFILE, onTrace, this);
 }
 
 StatementRecorder::~StatementRecorder()
@@ -139,20 +139,39 @@ QList<RecordedStatement> StatementRecorder::take()
     return std::exchange(m_statements, {});
 }
 
-int StatementRecorder::onTrace(unsigned /*type*/, void *recorder, void *statement, void *text)
+int StatementRecorder::onTrace(unsigned type, void *recorder, void *statement, void *text)
+{
+    auto *self = static_cast<StatementRecorder *>(recorder);
+    auto *running = static_cast<sqlite3_stmt *>(statement);
+    if (type == SQLITE_TRACE_STMT) {
+        self->begins(running, static_cast<const char *>(text));
+    } else {
+        self->ended(running);
+    }
+    return 0;
+}
+
+void StatementRecorder::begins(sqlite3_stmt *statement, const char *text)
 {
     // The comments tell of triggers and foreign keys inside a statement.
-    if (qstrncmp(static_cast<const char *>(text), "--", 2) == 0) {
-        return 0;
+    if (qstrncmp(text, "--", 2) == 0) {
+        return;
     }
-    auto *running = static_cast<sqlite3_stmt *>(statement);
-    char *filled = sqlite3_expanded_sql(running);
+    // What a prepared statement did before is not of this run.
+    sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_VM_STEP, 1);
+    sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_FULLSCAN_STEP, 1);
+    char *filled = sqlite3_expanded_sql(statement);
     RecordedStatement recorded;
-    recorded.sql = sqlite3_sql(running);
+    recorded.sql = sqlite3_sql(statement);
     recorded.values = ValueReader(recorded.sql, QByteArray(filled)).read();
     sqlite3_free(filled);
-    static_cast<StatementRecorder *>(recorder)->m_statements.append(recorded);
-    return 0;
+    m_statements.append(recorded);
+}
+
+void StatementRecorder::ended(sqlite3_stmt *statement)
+{
+    m_steps += sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_VM_STEP, 1);
+    m_scannedRows += sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_FULLSCAN_STEP, 1);
 }
 
 QByteArray blanked(const RecordedStatement &statement)

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QSqlDatabase>
 
+struct sqlite3_stmt;
+
 /// A value as it was bound, by its position in SQLite's own count of the placeholders.
 struct RecordedValue
 {
@@ -44,12 +46,21 @@ public:
     [[nodiscard]] const QList<RecordedStatement> &statements() const { return m_statements; }
     /// Hands out what was noted and begins anew.
     [[nodiscard]] QList<RecordedStatement> take();
+    /// The steps of SQLite's own machine in the statements that have ended: each row that is looked
+    /// at costs some, so they tell what a clock on a busy computer cannot.
+    [[nodiscard]] qint64 steps() const { return m_steps; }
+    /// The rows that were passed in reading a table from end to end.
+    [[nodiscard]] qint64 scannedRows() const { return m_scannedRows; }
 
 private:
     static int onTrace(unsigned type, void *recorder, void *statement, void *text);
+    void begins(sqlite3_stmt *statement, const char *text);
+    void ended(sqlite3_stmt *statement);
 
     QSqlDatabase m_database;
     QList<RecordedStatement> m_statements;
+    qint64 m_steps = 0;
+    qint64 m_scannedRows = 0;
 };
 
 /// The statement on one line, its runs of blanks made single and each value shown as "?".

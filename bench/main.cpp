@@ -59,6 +59,7 @@ void report(benchmark::State &state, const Comparison &comparison)
     state.counters["ratio"] = operation.median() / floor.median();
     state.counters["processor_ratio"] = operation.medianOfProcessor() / floor.medianOfProcessor();
     state.counters["statements"] = double(comparison.statements);
+    state.counters["processor_ms"] = operation.medianOfProcessor() * 1e3;
 }
 
 /// The rounds lie within the one iteration, for the floor is measured between them.
@@ -72,6 +73,8 @@ void measureOperation(benchmark::State &state, const Operation &operation)
             break;
         }
         report(state, *comparison);
+        state.counters["first_use_ms"] = comparison->firstUse.medianOfProcessor() * 1e3;
+        state.counters["steps"] = double(comparison->steps);
     }
 }
 
@@ -147,6 +150,7 @@ void registerAll()
             ->Arg(1000)
             ->Arg(20000)
             ->Arg(200000)
+            ->Arg(1000000)
             ->Iterations(1)
             ->UseManualTime()
             ->Unit(benchmark::kMillisecond);
@@ -171,7 +175,7 @@ void printStatements()
             allSucceeded = false;
             continue;
         }
-        for (const RecordedStatement &statement : recorded->constFirst()) {
+        for (const RecordedStatement &statement : recorded->rounds.constFirst()) {
             out << blanked(statement) << '\n';
         }
         out << '\n';

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/AnalyticsRepository.h"
 
+#include "repositories/BoundedSql.h"
 #include "repositories/Statement.h"
+#include "repositories/WorkingSet.h"
 
 #include <QDate>
 #include <QHash>
@@ -34,104 +36,123 @@ HourRevenue readHour(const Statement &row)
     hour.amount = row.real(1);
     return hour;
 }
+constexpr auto amongTodays = "AND id IN (SELECT id FROM temp.working_sessions"
+                             " WHERE closed_day = DATE('now') OR closed_day IS NULL)";
+
+/// The lines are what the join begins with, as without the bound: so their order stays.
+constexpr auto amongTodaysLines =
+    "AND oi.id IN (SELECT line.id FROM temp.working_sessions session"
+    " CROSS JOIN temp.working_orders batch ON batch.session_id = session.id"
+    " CROSS JOIN temp.working_lines line ON line.order_id = batch.id"
+    " WHERE session.closed_day = DATE('now') OR session.closed_day IS NULL)";
 } // namespace
 
 AnalyticsRepository::AnalyticsRepository(const QSqlDatabase &database)
     : m_database(database)
 {}
 
-constexpr auto revenueTodaySql = R"(
+const BoundedSql revenueTodaySql(R"(
     SELECT SUM(total) FROM order_sessions
     WHERE status = 'paid' AND closed_at IS NOT NULL
-    AND DATE(closed_at) = DATE('now'))";
+    AND DATE(closed_at) = DATE('now') {bound})",
+                                 amongTodays);
 
 double AnalyticsRepository::revenueToday() const
 {
-    Statement statement(m_database, revenueTodaySql, {"AnalyticsRepository::revenueToday failed:"});
+    Statement statement(m_database, revenueTodaySql.text(WorkingSet::isReady(m_database)),
+                        {"AnalyticsRepository::revenueToday failed:"});
     return readReal(statement);
 }
 
-constexpr auto ordersCountTodaySql = R"(
+const BoundedSql ordersCountTodaySql(R"(
     SELECT COUNT(*) FROM order_sessions
     WHERE status = 'paid' AND closed_at IS NOT NULL
-    AND DATE(closed_at) = DATE('now'))";
+    AND DATE(closed_at) = DATE('now') {bound})",
+                                     amongTodays);
 
 int AnalyticsRepository::ordersCountToday() const
 {
-    Statement statement(m_database, ordersCountTodaySql,
+    Statement statement(m_database, ordersCountTodaySql.text(WorkingSet::isReady(m_database)),
                         {"AnalyticsRepository::ordersCountToday failed:"});
     return readInteger(statement);
 }
 
-constexpr auto averageOrderTodaySql = R"(
+const BoundedSql averageOrderTodaySql(R"(
     SELECT AVG(total) FROM order_sessions
     WHERE status = 'paid' AND closed_at IS NOT NULL
-    AND DATE(closed_at) = DATE('now'))";
+    AND DATE(closed_at) = DATE('now') {bound})",
+                                      amongTodays);
 
 double AnalyticsRepository::averageOrderToday() const
 {
-    Statement statement(m_database, averageOrderTodaySql,
+    Statement statement(m_database, averageOrderTodaySql.text(WorkingSet::isReady(m_database)),
                         {"AnalyticsRepository::averageOrderToday failed:"});
     return readReal(statement);
 }
 
-constexpr auto itemsSoldTodaySql = R"(
+const BoundedSql itemsSoldTodaySql(R"(
     SELECT SUM(oi.quantity)
     FROM order_items oi
     JOIN orders o ON o.id = oi.order_id
     JOIN order_sessions os ON os.id = o.order_session_id
     WHERE os.status = 'paid' AND os.closed_at IS NOT NULL
-    AND DATE(os.closed_at) = DATE('now'))";
+    AND DATE(os.closed_at) = DATE('now') {bound})",
+                                   amongTodaysLines);
 
 int AnalyticsRepository::itemsSoldToday() const
 {
-    Statement statement(m_database, itemsSoldTodaySql,
+    Statement statement(m_database, itemsSoldTodaySql.text(WorkingSet::isReady(m_database)),
                         {"AnalyticsRepository::itemsSoldToday failed:"});
     return readInteger(statement);
 }
 
-constexpr auto topItemsTodaySql = R"(
+const BoundedSql topItemsTodaySql(R"(
     SELECT oi.item_name, SUM(oi.quantity) AS total_quantity
     FROM order_items oi
     JOIN orders o ON o.id = oi.order_id
     JOIN order_sessions os ON os.id = o.order_session_id
     WHERE os.status = 'paid' AND os.closed_at IS NOT NULL
-    AND DATE(os.closed_at) = DATE('now')
+    AND DATE(os.closed_at) = DATE('now') {bound}
     GROUP BY oi.item_name
     ORDER BY total_quantity DESC
-    LIMIT 5)";
+    LIMIT 5)",
+                                  amongTodaysLines);
 
 QList<TopItem> AnalyticsRepository::topItemsToday() const
 {
-    Statement statement(m_database, topItemsTodaySql,
+    Statement statement(m_database, topItemsTodaySql.text(WorkingSet::isReady(m_database)),
                         {"AnalyticsRepository::topItemsToday failed:"});
     return statement.rows(readTopItem);
 }
 
-constexpr auto revenueByHourTodaySql = R"(
+const BoundedSql revenueByHourTodaySql(R"(
     SELECT STRFTIME('%H', closed_at) AS hour, SUM(total) AS amount FROM order_sessions
     WHERE status = 'paid' AND closed_at IS NOT NULL
-    AND DATE(closed_at) = DATE('now')
+    AND DATE(closed_at) = DATE('now') {bound}
     GROUP BY hour
-    ORDER BY hour ASC)";
+    ORDER BY hour ASC)",
+                                       amongTodays);
 
 QList<HourRevenue> AnalyticsRepository::revenueByHourToday() const
 {
-    Statement statement(m_database, revenueByHourTodaySql,
+    Statement statement(m_database, revenueByHourTodaySql.text(WorkingSet::isReady(m_database)),
                         {"AnalyticsRepository::revenueByHourToday failed:"});
     return statement.rows(readHour);
 }
 
-constexpr auto revenueLastSevenDaysSql = R"(
+const BoundedSql revenueLastSevenDaysSql(R"(
     SELECT DATE(closed_at) AS day, SUM(total) AS amount FROM order_sessions
     WHERE status = 'paid' AND closed_at IS NOT NULL
-    AND DATE(closed_at) >= DATE('now', '-6 days')
+    AND DATE(closed_at) >= DATE('now', '-6 days') {bound}
     GROUP BY day
-    ORDER BY day ASC)";
+    ORDER BY day ASC)",
+                                         "AND id IN (SELECT id FROM temp.working_sessions"
+                                         " WHERE closed_day >= DATE('now', '-6 days')"
+                                         " OR closed_day IS NULL)");
 
 QList<DayRevenue> AnalyticsRepository::revenueLastSevenDays() const
 {
-    Statement statement(m_database, revenueLastSevenDaysSql,
+    Statement statement(m_database, revenueLastSevenDaysSql.text(WorkingSet::isReady(m_database)),
                         {"AnalyticsRepository::revenueLastSevenDays failed:"});
     if (!statement.run()) {
         return {};

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/MembershipTransactionRepository.h"
 
+#include "repositories/BoundedSql.h"
 #include "repositories/Statement.h"
+#include "repositories/WorkingSet.h"
 
 namespace {
 const QString earnType = QStringLiteral("earn");
@@ -97,26 +99,34 @@ std::optional<MembershipTransaction> MembershipTransactionRepository::getById(in
     return readTransaction(statement);
 }
 
-constexpr auto sumPointsSql = R"(
+constexpr auto ofTheSession = "AND id IN (SELECT id FROM temp.working_points"
+                              " WHERE session_id = :order_session_id)";
+
+const BoundedSql sumPointsSql(R"(
     SELECT COALESCE(SUM(points), 0) FROM membership_transactions
-    WHERE order_session_id = :order_session_id AND type = :type)";
+    WHERE order_session_id = :order_session_id AND type = :type {bound})",
+                              ofTheSession);
 
 int MembershipTransactionRepository::sumPoints(int orderSessionId, const QString &type) const
 {
-    Statement statement(m_database, sumPointsSql, {"Failed to sum points:", lcMembership});
+    Statement statement(m_database,
+                        sumPointsSql.text(WorkingSet::holdsSession(m_database, orderSessionId)),
+                        {"Failed to sum points:", lcMembership});
     statement.bind(":order_session_id", orderSessionId);
     statement.bind(":type", type);
     return statement.run() && statement.next() ? statement.integer(0) : 0;
 }
 
-constexpr auto getMembershipIdBySessionSql = R"(
+const BoundedSql getMembershipIdBySessionSql(R"(
     SELECT membership_id FROM membership_transactions
-    WHERE order_session_id = :order_session_id
-    LIMIT 1)";
+    WHERE order_session_id = :order_session_id {bound}
+    LIMIT 1)",
+                                             ofTheSession);
 
 int MembershipTransactionRepository::getMembershipIdBySession(int orderSessionId) const
 {
-    Statement statement(m_database, getMembershipIdBySessionSql, {nullptr});
+    const bool held = WorkingSet::holdsSession(m_database, orderSessionId);
+    Statement statement(m_database, getMembershipIdBySessionSql.text(held), {nullptr});
     statement.bind(":order_session_id", orderSessionId);
     return statement.run() && statement.next() ? statement.integer(0) : 0;
 }
@@ -131,10 +141,11 @@ int MembershipTransactionRepository::getEarnedPoints(int orderSessionId) const
     return sumPoints(orderSessionId, earnType);
 }
 
-constexpr auto getByOrderSessionSql = R"(
+const BoundedSql getByOrderSessionSql(R"(
     SELECT id, membership_id, order_session_id, type, points FROM membership_transactions
-    WHERE order_session_id = :order_session_id
-    ORDER BY created_at DESC)";
+    WHERE order_session_id = :order_session_id {bound}
+    ORDER BY created_at DESC)",
+                                      ofTheSession);
 
 QList<MembershipTransaction>
 MembershipTransactionRepository::getByOrderSession(int orderSessionId) const
@@ -142,7 +153,8 @@ MembershipTransactionRepository::getByOrderSession(int orderSessionId) const
     if (!isValidId(orderSessionId, "Invalid order session ID:")) {
         return {};
     }
-    Statement statement(m_database, getByOrderSessionSql,
+    const bool held = WorkingSet::holdsSession(m_database, orderSessionId);
+    Statement statement(m_database, getByOrderSessionSql.text(held),
                         {"Failed to fetch transactions for order session:", lcMembership});
     statement.bind(":order_session_id", orderSessionId);
     return statement.rows(readTransaction);

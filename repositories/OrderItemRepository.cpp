@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/OrderItemRepository.h"
 
+#include "repositories/BoundedSql.h"
 #include "repositories/Statement.h"
+#include "repositories/WorkingSet.h"
 
 #include <QStringList>
 
@@ -82,20 +84,33 @@ void OrderItemRepository::remove(int id)
     std::ignore = statement.run();
 }
 
+const BoundedSql
+    removeByOrderIdSql("DELETE FROM order_items WHERE order_id = ?{bound}",
+                       " AND id IN (SELECT id FROM temp.working_lines WHERE order_id = ?)");
+
 void OrderItemRepository::removeByOrderId(int orderId)
 {
-    Statement statement(m_database, "DELETE FROM order_items WHERE order_id = ?",
+    const bool held = WorkingSet::holdsOrder(m_database, orderId);
+    Statement statement(m_database, removeByOrderIdSql.text(held),
                         {"Failed to remove order items:", lcDefault, QtCriticalMsg});
     statement.addBind(orderId);
+    if (held) {
+        statement.addBind(orderId);
+    }
     std::ignore = statement.run();
 }
 
-constexpr auto markItemsByOrderIdSql =
-    "UPDATE order_items SET item_status = :status WHERE order_id = :order_id";
+constexpr auto ofTheOrder =
+    " AND id IN (SELECT id FROM temp.working_lines WHERE order_id = :order_id)";
+
+const BoundedSql markItemsByOrderIdSql(
+    "UPDATE order_items SET item_status = :status WHERE order_id = :order_id{bound}", ofTheOrder);
 
 bool OrderItemRepository::markItemsByOrderId(int orderId, const QString &status)
 {
-    Statement statement(m_database, markItemsByOrderIdSql, {"markItemsByOrderId failed:"});
+    Statement statement(m_database,
+                        markItemsByOrderIdSql.text(WorkingSet::holdsOrder(m_database, orderId)),
+                        {"markItemsByOrderId failed:"});
     statement.bind(":status", status);
     statement.bind(":order_id", orderId);
     return statement.run();
@@ -127,21 +142,25 @@ QList<OrderItem> OrderItemRepository::getAllOrderItems() const
     return statement.rows(readOrderItem);
 }
 
-constexpr auto getOrderItemsByOrderIdSql = R"(
+const BoundedSql getOrderItemsByOrderIdSql(R"(
     SELECT id, order_id, item_id, item_name, quantity, portion_size, price, is_taxable,
         item_status, notes
-    FROM order_items WHERE order_id = :order_id)";
+    FROM order_items WHERE order_id = :order_id{bound})",
+                                           ofTheOrder);
 
 QList<OrderItem> OrderItemRepository::getOrderItemsByOrderId(int orderId) const
 {
-    Statement statement(m_database, getOrderItemsByOrderIdSql, {"getOrderItemsByOrderId failed:"});
+    Statement statement(m_database,
+                        getOrderItemsByOrderIdSql.text(WorkingSet::holdsOrder(m_database, orderId)),
+                        {"getOrderItemsByOrderId failed:"});
     statement.bind(":order_id", orderId);
     return statement.rows(readOrderItem);
 }
 
-constexpr auto getOrderItemsByOrderIdsSql =
+const BoundedSql getOrderItemsByOrderIdsSql(
     "SELECT id, order_id, item_id, item_name, quantity, portion_size, price, is_taxable, "
-    "item_status, notes FROM order_items WHERE order_id IN (%1)";
+    "item_status, notes FROM order_items WHERE order_id IN (%1){bound}",
+    " AND id IN (SELECT id FROM temp.working_lines WHERE order_id IN (%1))");
 
 QList<OrderItem> OrderItemRepository::getOrderItemsByOrderIds(const QList<int> &orderIds) const
 {
@@ -150,11 +169,14 @@ QList<OrderItem> OrderItemRepository::getOrderItemsByOrderIds(const QList<int> &
     }
     const QString placeholders =
         QStringList(orderIds.size(), QStringLiteral("?")).join(QLatin1Char(','));
-    Statement statement(m_database,
-                        QString::fromLatin1(getOrderItemsByOrderIdsSql).arg(placeholders),
-                        {"getOrderItemsByOrderIds failed:"});
-    for (const int orderId : orderIds) {
-        statement.addBind(orderId);
+    const bool held = WorkingSet::holdsOrders(m_database, orderIds);
+    Statement statement(
+        m_database, QString::fromLatin1(getOrderItemsByOrderIdsSql.text(held)).arg(placeholders),
+        {"getOrderItemsByOrderIds failed:"});
+    for (const QList<int> &ids : {orderIds, held ? orderIds : QList<int>()}) {
+        for (const int orderId : ids) {
+            statement.addBind(orderId);
+        }
     }
     return statement.rows(readOrderItem);
 }

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/OrderRepository.h"
 
+#include "repositories/BoundedSql.h"
 #include "repositories/Statement.h"
+#include "repositories/WorkingSet.h"
 
 namespace {
 const QLoggingCategory &lcDefault()
@@ -40,12 +42,16 @@ OrderRepository::OrderRepository(const QSqlDatabase &database)
     : m_database(database)
 {}
 
-constexpr auto getMaxDisplayNumberSql =
-    "SELECT MAX(display_number) FROM orders WHERE DATE(created_at) = :date";
+const BoundedSql getMaxDisplayNumberSql(
+    "SELECT MAX(display_number) FROM orders WHERE DATE(created_at) = :date{bound}",
+    " AND id IN (SELECT id FROM temp.working_orders"
+    " WHERE created_day = :date OR created_day IS NULL)");
 
 int OrderRepository::getMaxDisplayNumber(const QString &date) const
 {
-    Statement statement(m_database, getMaxDisplayNumberSql, {"Failed to get max display number:"});
+    Statement statement(m_database,
+                        getMaxDisplayNumberSql.text(WorkingSet::holdsDay(m_database, date)),
+                        {"Failed to get max display number:"});
     statement.bind(":date", date);
     // MAX over no rows is NULL, which reads as 0.
     return statement.run() && statement.next() ? statement.integer(0) : 0;
@@ -108,42 +114,51 @@ std::optional<Order> OrderRepository::getOrderById(int id) const
     return readOrder(statement);
 }
 
-constexpr auto getOrdersByStatusSql = R"(
+const BoundedSql getOrdersByStatusSql(R"(
     SELECT id, order_session_id, display_number, status, notes, closed_at FROM orders
-    WHERE status = :status
-    ORDER BY created_at ASC)";
+    WHERE status = :status {bound}
+    ORDER BY created_at ASC)",
+                                      "AND id IN (SELECT id FROM temp.working_orders"
+                                      " WHERE served = 0)");
 
 QList<Order> OrderRepository::getOrdersByStatus(const QString &status) const
 {
-    Statement statement(m_database, getOrdersByStatusSql, {"getOrdersByStatus failed:"});
+    const bool onTheBoard = status != QLatin1String("served") && WorkingSet::isReady(m_database);
+    Statement statement(m_database, getOrdersByStatusSql.text(onTheBoard),
+                        {"getOrdersByStatus failed:"});
     statement.bind(":status", status);
     return statement.rows(readOrder);
 }
 
-constexpr auto getOrdersBySessionSql = R"(
+const BoundedSql getOrdersBySessionSql(R"(
     SELECT id, order_session_id, display_number, status, notes, closed_at FROM orders
-    WHERE order_session_id = :sessionId)";
+    WHERE order_session_id = :sessionId {bound})",
+                                       "AND id IN (SELECT id FROM temp.working_orders"
+                                       " WHERE session_id = :sessionId)");
 
 QList<Order> OrderRepository::getOrdersBySession(int sessionId) const
 {
-    Statement statement(m_database, getOrdersBySessionSql, {"Failed to get orders for session:"});
+    Statement statement(m_database,
+                        getOrdersBySessionSql.text(WorkingSet::holdsSession(m_database, sessionId)),
+                        {"Failed to get orders for session:"});
     statement.bind(":sessionId", sessionId);
     return statement.rows(readOrder);
 }
 
-constexpr auto getActiveSessionOrdersSql = R"(
+const BoundedSql getActiveSessionOrdersSql(R"(
     SELECT o.id, o.display_number, o.order_session_id, o.status, o.notes,
         s.order_type, s.table_id
     FROM orders o
     JOIN order_sessions s ON s.id = o.order_session_id
     WHERE s.status != 'paid'
     AND o.created_at >= DATETIME('now', 'localtime', 'start of day')
-    AND o.created_at < DATETIME('now', 'localtime', 'start of day', '+1 day')
-    ORDER BY o.created_at DESC)";
+    AND o.created_at < DATETIME('now', 'localtime', 'start of day', '+1 day') {bound}
+    ORDER BY o.created_at DESC)",
+                                           "AND o.id IN (SELECT id FROM temp.working_orders)");
 
 QList<ActiveOrderRow> OrderRepository::getActiveSessionOrders() const
 {
-    Statement statement(m_database, getActiveSessionOrdersSql,
+    Statement statement(m_database, getActiveSessionOrdersSql.text(WorkingSet::isReady(m_database)),
                         {"Failed to get active order session orders:", lcDefault, QtCriticalMsg});
     return statement.rows(readActiveOrder);
 }

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/OrderSessionRepository.h"
 
+#include "repositories/BoundedSql.h"
 #include "repositories/Statement.h"
+#include "repositories/WorkingSet.h"
 
 namespace {
 /// By position: the columns of a "SELECT *" stand in the order in which the table was created, and
@@ -55,27 +57,35 @@ OrderSessionRepository::OrderSessionRepository(const QSqlDatabase &database)
     : m_database(database)
 {}
 
-constexpr auto getMaxDisplayNumberSql =
-    "SELECT MAX(display_number) FROM order_sessions WHERE DATE(opened_at) = :date";
+const BoundedSql getMaxDisplayNumberSql(
+    "SELECT MAX(display_number) FROM order_sessions WHERE DATE(opened_at) = :date{bound}",
+    " AND id IN (SELECT id FROM temp.working_sessions"
+    " WHERE opened_day = :date OR opened_day IS NULL)");
 
 int OrderSessionRepository::getMaxDisplayNumber(const QString &date) const
 {
-    Statement statement(m_database, getMaxDisplayNumberSql, {"Failed to get max display number:"});
+    Statement statement(m_database,
+                        getMaxDisplayNumberSql.text(WorkingSet::holdsDay(m_database, date)),
+                        {"Failed to get max display number:"});
     statement.bind(":date", date);
     // MAX over no rows is NULL, which reads as 0.
     return statement.run() && statement.next() ? statement.integer(0) : 0;
 }
 
-constexpr auto findOpenDineInSessionSql = R"(
+constexpr auto amongUnpaid = "AND id IN (SELECT id FROM temp.working_sessions WHERE paid = 0)";
+
+const BoundedSql findOpenDineInSessionSql(R"(
     SELECT id FROM order_sessions
     WHERE table_id = :table_id
     AND status = 'open'
-    AND order_type = 'dine_in'
-    LIMIT 1)";
+    AND order_type = 'dine_in' {bound}
+    LIMIT 1)",
+                                          amongUnpaid);
 
 int OrderSessionRepository::findOpenDineInSession(int tableId) const
 {
-    Statement statement(m_database, findOpenDineInSessionSql, {nullptr});
+    Statement statement(m_database, findOpenDineInSessionSql.text(WorkingSet::isReady(m_database)),
+                        {nullptr});
     statement.bind(":table_id", tableId);
     return statement.run() && statement.next() ? statement.integer(0) : 0;
 }
@@ -145,23 +155,28 @@ std::optional<OrderSession> OrderSessionRepository::getSessionByOrderId(int orde
     return readOneSession(statement);
 }
 
-constexpr auto getRecentPaidSessionsSql = R"(
+const BoundedSql getRecentPaidSessionsSql(R"(
     SELECT * FROM order_sessions
-    WHERE status = 'paid'
+    WHERE status = 'paid' {bound}
     ORDER BY closed_at DESC
-    LIMIT :limit)";
+    LIMIT :limit)",
+                                          "AND id IN (SELECT id FROM temp.working_sessions)");
 
 QList<OrderSession> OrderSessionRepository::getRecentPaidSessions(int limit) const
 {
-    Statement statement(m_database, getRecentPaidSessionsSql,
+    Statement statement(m_database,
+                        getRecentPaidSessionsSql.text(WorkingSet::holdsLastPaid(m_database, limit)),
                         {"Failed to get recent paid sessions:"});
     statement.bind(":limit", limit);
     return statement.rows(readSession);
 }
 
+const BoundedSql getOpenSessionsSql("SELECT * FROM order_sessions WHERE status = 'open' {bound}",
+                                    amongUnpaid);
+
 QList<OrderSession> OrderSessionRepository::getOpenSessions() const
 {
-    Statement statement(m_database, "SELECT * FROM order_sessions WHERE status = 'open'",
+    Statement statement(m_database, getOpenSessionsSql.text(WorkingSet::isReady(m_database)),
                         {"Failed to get active order sessions:"});
     return statement.rows(readSession);
 }

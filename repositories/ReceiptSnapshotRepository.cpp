@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/ReceiptSnapshotRepository.h"
 
+#include "repositories/BoundedSql.h"
 #include "repositories/Statement.h"
+#include "repositories/WorkingSet.h"
 
 ReceiptSnapshotRepository::ReceiptSnapshotRepository(const QSqlDatabase &database)
     : m_database(database)
@@ -37,18 +39,22 @@ int ReceiptSnapshotRepository::create(const ReceiptSnapshot &snapshot)
     return statement.run() ? statement.insertedId() : 0;
 }
 
-constexpr auto getByOrderSessionSql = R"(
+const BoundedSql getByOrderSessionSql(R"(
     SELECT id, order_session_id, cashier_name, store_name, address, phone, email, website,
         tax_name, tax_rate, tax_registration_number, member_phone, points_balance_before,
         points_balance_after, order_type, table_name, created_at
     FROM receipt_snapshot
-    WHERE order_session_id = :order_session_id
-    LIMIT 1)";
+    WHERE order_session_id = :order_session_id {bound}
+    LIMIT 1)",
+                                      "AND id IN (SELECT id FROM temp.working_snapshots"
+                                      " WHERE session_id = :order_session_id)");
 
 std::optional<ReceiptSnapshot>
 ReceiptSnapshotRepository::getByOrderSession(int orderSessionId) const
 {
-    Statement statement(m_database, getByOrderSessionSql, {"Failed to fetch receipt snapshot:"});
+    const bool held = WorkingSet::holdsSession(m_database, orderSessionId);
+    Statement statement(m_database, getByOrderSessionSql.text(held),
+                        {"Failed to fetch receipt snapshot:"});
     statement.bind(":order_session_id", orderSessionId);
     if (!statement.run() || !statement.next()) {
         return std::nullopt;

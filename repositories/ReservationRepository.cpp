@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/ReservationRepository.h"
 
+#include "repositories/BoundedSql.h"
 #include "repositories/Statement.h"
+#include "repositories/WorkingSet.h"
 
 namespace {
 const QString dateTimeFormat = QStringLiteral("yyyy-MM-dd HH:mm:ss");
@@ -168,5 +170,26 @@ QList<Reservation> ReservationRepository::fetchByTable(int tableId) const
 {
     Statement statement(m_database, fetchByTableSql, {"Failed to get reservations by table:"});
     statement.addBind(tableId);
+    return statement.rows(readReservation);
+}
+
+const BoundedSql fetchUnfinishedByTableSql(R"(
+    SELECT id, customer_name, customer_phone, pax, table_id, reservation_datetime,
+        duration_minutes, status, notes
+    FROM reservations
+    WHERE table_id = ? AND (status IS NULL OR status NOT IN ('cancelled', 'completed')) {bound}
+    ORDER BY reservation_datetime ASC)",
+                                           "AND id IN (SELECT id FROM temp.working_bookings"
+                                           " WHERE table_id = ?)");
+
+QList<Reservation> ReservationRepository::fetchUnfinishedByTable(int tableId) const
+{
+    const bool held = WorkingSet::isReady(m_database);
+    Statement statement(m_database, fetchUnfinishedByTableSql.text(held),
+                        {"Failed to get reservations by table:"});
+    statement.addBind(tableId);
+    if (held) {
+        statement.addBind(tableId);
+    }
     return statement.rows(readReservation);
 }

@@ -26,6 +26,9 @@ public:
     [[nodiscard]] QList<Reservation> fetchAll() const;
     /// By ascending time.
     [[nodiscard]] QList<Reservation> fetchByTable(int tableId) const;
+    /// The same without those that are cancelled or completed: nobody asks for these, and in years
+    /// they are nearly all.
+    [[nodiscard]] QList<Reservation> fetchUnfinishedByTable(int tableId) const;
 
 private:
     QSqlDatabase m_database;

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "repositories/TaxReportRepository.h"
 
+#include "repositories/BoundedSql.h"
 #include "repositories/Statement.h"
+#include "repositories/WorkingSet.h"
 
 namespace {
 const QLoggingCategory &lcDefault()
@@ -43,9 +45,21 @@ TaxSessionRow readSession(const Statement &row)
     return session;
 }
 
+/// The sessions that may have been closed in the period: the blocks of the calendar that reach into
+/// it, and the held ones, which may have been closed since it was made. A stamp's own first
+/// characters are up to four days before the day that DATE makes of it, and one day behind it.
+#define SESSIONS_OF_THE_PERIOD                                                                     \
+    "SELECT session.id FROM temp.working_calendar CROSS JOIN order_sessions session"               \
+    " ON session.id BETWEEN block * 128 AND block * 128 + 127"                                     \
+    " WHERE high >= COALESCE(DATE(:from, '-4 days'), '')"                                          \
+    " AND low < COALESCE(DATE(:to, '+2 days'), x'')"                                               \
+    " UNION SELECT id FROM temp.working_sessions"
+
+constexpr auto amongPeriod = "AND id IN (" SESSIONS_OF_THE_PERIOD ")";
+
 constexpr FailureReport summaryFailure{"TaxReportRepository::getSummary failed:", lcDefault};
 
-constexpr auto sumsSql = R"(
+const BoundedSql sumsSql(R"(
     SELECT COUNT(*) as transaction_count,
         COALESCE(SUM(subtotal), 0) as subtotal,
         COALESCE(SUM(tax), 0) as tax_collected,
@@ -53,11 +67,12 @@ constexpr auto sumsSql = R"(
         COALESCE(SUM(total), 0) as total_sales
     FROM order_sessions
     WHERE status = 'paid' AND closed_at IS NOT NULL
-    AND date(closed_at) >= :from AND date(closed_at) <= :to)";
+    AND date(closed_at) >= :from AND date(closed_at) <= :to {bound})",
+                         amongPeriod);
 
 bool readSums(const QSqlDatabase &database, TaxSummary &summary)
 {
-    Statement statement(database, sumsSql, summaryFailure);
+    Statement statement(database, sumsSql.text(WorkingSet::hasCalendar(database)), summaryFailure);
     bindPeriod(statement, summary.from, summary.to);
     if (!statement.run() || !statement.next()) {
         return false;
@@ -70,19 +85,32 @@ bool readSums(const QSqlDatabase &database, TaxSummary &summary)
     return true;
 }
 
-constexpr auto identitySql = R"(
+const BoundedSql identitySql(R"(
     SELECT tax_name, tax_rate, tax_registration_number FROM receipt_snapshot
     WHERE order_session_id IN (
         SELECT id FROM order_sessions
         WHERE status = 'paid' AND closed_at IS NOT NULL
-        AND date(closed_at) >= :from AND date(closed_at) <= :to)
+        AND date(closed_at) >= :from AND date(closed_at) <= :to {inner})
+    {bound}
     ORDER BY created_at DESC
-    LIMIT 1)";
+    LIMIT 1)",
+                             R"(AND id IN (
+        SELECT receipt.id FROM temp.working_receipts block
+        CROSS JOIN receipt_snapshot receipt
+            ON receipt.id BETWEEN block.block * 128 AND block.block * 128 + 127
+        WHERE EXISTS (
+            SELECT 1 FROM temp.working_calendar day
+            WHERE day.block BETWEEN block.low >> 7 AND block.high >> 7
+            AND day.high >= COALESCE(DATE(:from, '-4 days'), '')
+            AND day.low < COALESCE(DATE(:to, '+2 days'), x''))
+        UNION SELECT id FROM temp.working_snapshots))",
+                             amongPeriod);
 
 /// The tax as the latest sale of the period named it.
 void readIdentity(const QSqlDatabase &database, TaxSummary &summary)
 {
-    Statement statement(database, identitySql, summaryFailure);
+    Statement statement(database, identitySql.text(WorkingSet::hasCalendar(database)),
+                        summaryFailure);
     bindPeriod(statement, summary.from, summary.to);
     if (!statement.run() || !statement.next()) {
         return;
@@ -108,7 +136,7 @@ TaxSummary TaxReportRepository::getSummary(const QDate &from, const QDate &to) c
     return summary;
 }
 
-constexpr auto getDailyBreakdownSql = R"(
+const BoundedSql getDailyBreakdownSql(R"(
     SELECT date(closed_at) as day,
         COUNT(*) as transaction_count,
         COALESCE(SUM(subtotal), 0) as subtotal,
@@ -117,30 +145,32 @@ constexpr auto getDailyBreakdownSql = R"(
         COALESCE(SUM(total), 0) as total_sales
     FROM order_sessions
     WHERE status = 'paid' AND closed_at IS NOT NULL
-    AND date(closed_at) >= :from AND date(closed_at) <= :to
+    AND date(closed_at) >= :from AND date(closed_at) <= :to {bound}
     GROUP BY date(closed_at)
-    ORDER BY day ASC)";
+    ORDER BY day ASC)",
+                                      amongPeriod);
 
 QList<TaxDailyRow> TaxReportRepository::getDailyBreakdown(const QDate &from, const QDate &to) const
 {
-    Statement statement(m_database, getDailyBreakdownSql,
+    Statement statement(m_database, getDailyBreakdownSql.text(WorkingSet::hasCalendar(m_database)),
                         {"TaxReportRepository::getDailyBreakdown failed:", lcDefault});
     bindPeriod(statement, from, to);
     return statement.rows(readDay);
 }
 
-constexpr auto getSessionsSql = R"(
+const BoundedSql getSessionsSql(R"(
     SELECT os.id, os.receipt_number, os.order_type, t.table_name, os.subtotal, os.tax,
         os.discount, os.total, os.closed_at
     FROM order_sessions os
     LEFT JOIN tables t ON t.id = os.table_id
     WHERE os.status = 'paid' AND os.closed_at IS NOT NULL
-    AND date(os.closed_at) >= :from AND date(os.closed_at) <= :to
-    ORDER BY os.closed_at DESC)";
+    AND date(os.closed_at) >= :from AND date(os.closed_at) <= :to {bound}
+    ORDER BY os.closed_at DESC)",
+                                "AND os.id IN (" SESSIONS_OF_THE_PERIOD ")");
 
 QList<TaxSessionRow> TaxReportRepository::getSessions(const QDate &from, const QDate &to) const
 {
-    Statement statement(m_database, getSessionsSql,
+    Statement statement(m_database, getSessionsSql.text(WorkingSet::hasCalendar(m_database)),
                         {"TaxReportRepository::getSessions failed:", lcDefault});
     bindPeriod(statement, from, to);
     return statement.rows(readSession);

@@ -243,7 +243,7 @@ void FloorPlanService::mergeTable(CanvasItem &item) const
     item.capacity = table->capacity;
     item.status = table->status;
     const std::optional<Reservation> booking =
-        earliestBooking(m_reservations->fetchByTable(*item.table_id));
+        earliestBooking(m_reservations->fetchUnfinishedByTable(*item.table_id));
     if (!booking) {
         // A copy stored with the plan stays in the metadata until the next booking replaces it.
         return;

@@ -71,7 +71,7 @@ ReservationService::ReservationService(ReservationRepository *reservations, Tabl
 
 QVariantMap ReservationService::getActiveReservationByTable(int tableId) const
 {
-    for (const Reservation &reservation : m_reservations->fetchByTable(tableId)) {
+    for (const Reservation &reservation : m_reservations->fetchUnfinishedByTable(tableId)) {
         if (isActive(reservation.status)) {
             return mapOf(reservation);
         }
@@ -146,7 +146,7 @@ bool ReservationService::isTableAvailable(int tableId, const QDateTime &start,
 
 QVariantMap ReservationService::getSeatedReservationByTable(int tableId) const
 {
-    for (const Reservation &reservation : m_reservations->fetchByTable(tableId)) {
+    for (const Reservation &reservation : m_reservations->fetchUnfinishedByTable(tableId)) {
         if (reservation.status == QLatin1String("seated")) {
             return mapOf(reservation);
         }
@@ -157,7 +157,7 @@ QVariantMap ReservationService::getSeatedReservationByTable(int tableId) const
 bool ReservationService::hasConflict(int tableId, const QDateTime &start, const QDateTime &end,
                                      int excludeId) const
 {
-    for (const Reservation &other : m_reservations->fetchByTable(tableId)) {
+    for (const Reservation &other : m_reservations->fetchUnfinishedByTable(tableId)) {
         if (other.id == excludeId || freesItsSlot(other.status)) {
             continue;
         }

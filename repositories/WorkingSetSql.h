@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Zelvan POS developers
+// SPDX-License-Identifier: GPL-3.0-only
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+
+/// The statements that make and ask the working set. Its ids stand in tables `working_...` of the
+/// connection's temporary schema.
+namespace WorkingSetSql {
+/// The version of the file as other connections left it, and whether the set has lost track.
+extern const char *const state;
+/// The closing time that comes at a place in the row of those paid last.
+extern const char *const lastPaid;
+/// The latest closing time outside of the set.
+extern const char *const latestOutside;
+/// The steps that make the map of older sessions: which stamps each block of ids holds.
+extern const QStringList calendar;
+/// Tables and triggers, where they are not there yet; all of them empty then.
+extern const QStringList schema;
+
+/// The id to begin with: the youngest days lie behind it, and at least some sessions.
+[[nodiscard]] QString firstSession(const QDate &youngFrom);
+[[nodiscard]] QString firstOrder(qlonglong firstSession);
+/// What fills the tables, in this order.
+[[nodiscard]] QString sessions(qlonglong firstSession, const QDate &youngFrom);
+[[nodiscard]] QString orders(qlonglong firstSession, qlonglong firstOrder, const QDate &youngFrom);
+[[nodiscard]] QString lines(qlonglong firstOrder);
+[[nodiscard]] QString points(qlonglong firstSession);
+[[nodiscard]] QString snapshots(qlonglong firstSession);
+[[nodiscard]] QString bookings();
+} // namespace WorkingSetSql
