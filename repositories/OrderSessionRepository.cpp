@@ -160,7 +160,13 @@ const BoundedSql getRecentPaidSessionsSql(R"(
     WHERE status = 'paid' {bound}
     ORDER BY closed_at DESC
     LIMIT :limit)",
-                                          "AND id IN (SELECT id FROM temp.working_sessions)");
+                                          R"(AND id IN (
+        SELECT id FROM temp.working_sessions
+        WHERE paid = 1 AND closed_at >= (
+            SELECT closed_at FROM temp.working_sessions
+            WHERE paid = 1
+            ORDER BY closed_at DESC
+            LIMIT 1 OFFSET :limit - 1)))");
 
 QList<OrderSession> OrderSessionRepository::getRecentPaidSessions(int limit) const
 {

@@ -45,10 +45,10 @@ QString followed(const QString &table, const QString &assignments)
         .arg(table, assignments);
 }
 
-const QString sessionColumns = QStringLiteral("id, opened_day, closed_day, paid");
+const QString sessionColumns = QStringLiteral("id, opened_day, closed_day, closed_at, paid");
 QString sessionValues(const QString &row)
 {
-    return QStringLiteral("%1id, %2, %3, COALESCE(%1status = 'paid', 0)")
+    return QStringLiteral("%1id, %2, %3, %1closed_at, COALESCE(%1status = 'paid', 0)")
         .arg(row, dayOf(row + QStringLiteral("opened_at")),
              dayOf(row + QStringLiteral("closed_at")));
 }
@@ -93,7 +93,7 @@ QStringList makeSchema()
     return {
         QStringLiteral("CREATE TEMP TABLE IF NOT EXISTS working_state (lost INTEGER)"),
         QStringLiteral("CREATE TEMP TABLE IF NOT EXISTS working_sessions (id INTEGER PRIMARY KEY,"
-                       " opened_day TEXT, closed_day TEXT, paid INTEGER)"),
+                       " opened_day TEXT, closed_day TEXT, closed_at TEXT, paid INTEGER)"),
         QStringLiteral("CREATE TEMP TABLE IF NOT EXISTS working_orders (id INTEGER PRIMARY KEY,"
                        " session_id INTEGER, created_day TEXT, served INTEGER)"),
         QStringLiteral("CREATE TEMP TABLE IF NOT EXISTS working_lines (id INTEGER PRIMARY KEY,"
@@ -106,6 +106,14 @@ QStringList makeSchema()
                        " table_id INTEGER)"),
         QStringLiteral("CREATE INDEX IF NOT EXISTS temp.working_unpaid ON working_sessions (id)"
                        " WHERE paid = 0"),
+        QStringLiteral("CREATE INDEX IF NOT EXISTS temp.working_paid"
+                       " ON working_sessions (closed_at) WHERE paid = 1"),
+        QStringLiteral("CREATE INDEX IF NOT EXISTS temp.working_opened"
+                       " ON working_sessions (opened_day)"),
+        QStringLiteral("CREATE INDEX IF NOT EXISTS temp.working_closed"
+                       " ON working_sessions (closed_day)"),
+        QStringLiteral("CREATE INDEX IF NOT EXISTS temp.working_ordered"
+                       " ON working_orders (created_day)"),
         QStringLiteral("CREATE INDEX IF NOT EXISTS temp.working_unserved ON working_orders (id)"
                        " WHERE served = 0"),
         QStringLiteral("CREATE INDEX IF NOT EXISTS temp.working_orders_of_session"
@@ -189,8 +197,8 @@ const char *const state =
     "SELECT data_version, (SELECT lost FROM temp.working_state) FROM pragma_data_version";
 
 const char *const lastPaid = R"(
-    SELECT closed_at FROM order_sessions
-    WHERE status = 'paid' AND id IN (SELECT id FROM temp.working_sessions)
+    SELECT closed_at FROM temp.working_sessions
+    WHERE paid = 1
     ORDER BY closed_at DESC
     LIMIT 1 OFFSET :place)";
 

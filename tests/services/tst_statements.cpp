@@ -18,7 +18,7 @@ const QByteArray insertLine = "INSERT INTO order_items";
 const QByteArray sessionById = "SELECT * FROM order_sessions WHERE id = ?";
 const QByteArray openSessions = "SELECT * FROM order_sessions WHERE status = 'open'";
 const QByteArray paidSessions = "SELECT * FROM order_sessions WHERE status = 'paid'";
-const QByteArray lastPaid = "SELECT closed_at FROM order_sessions WHERE status = 'paid'";
+const QByteArray lastPaid = "SELECT closed_at FROM temp.working_sessions WHERE paid = 1";
 const QByteArray updateSession = "UPDATE order_sessions SET display_number";
 const QByteArray markPaid = "UPDATE order_sessions SET status = 'paid'";
 const QByteArray ordersOfSession = "orders WHERE order_session_id = ?";
