@@ -42,7 +42,7 @@ ModalFrame {
         NumberAnimation { property: "opacity"; from: 1; to: 0; duration: 100 }
     }
 
-    contentItem: ColumnLayout {
+    contentItem: ColumnLayout { // qmllint disable deferred-property-id
         spacing: root.tight ? 6 : 15
 
         PlainLabel {

@@ -19,7 +19,7 @@ Rectangle {
     border.color: Theme.border
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: [caption, figure, note].filter(text => text !== "").join(" ")
+    Accessible.name: [caption, figure, note].filter(text => text !== "").join(" ") // qmllint disable type
 
     Column {
         anchors.left: parent.left

@@ -13,7 +13,7 @@ ScrollingList {
 
     function actOnRow(event: var, act: string): void {
         // Keys that a row's own fields let pass are not meant for the list.
-        event.accepted = !!root.currentItem && [root, root.currentItem].includes(root.Window.activeFocusItem)
+        event.accepted = !!root.currentItem && [root, root.currentItem].includes(root.Window.activeFocusItem) // qmllint disable type
         if (event.accepted)
             root.currentItem[act]()
     }

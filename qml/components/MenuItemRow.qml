@@ -32,7 +32,7 @@ RowLayout {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: name
-    Accessible.description: [available ? "" : unavailableText, price, portion].filter(text => text !== "").join(", ")
+    Accessible.description: [available ? "" : unavailableText, price, portion].filter(text => text !== "").join(", ") // qmllint disable type
 
     ColumnLayout {
         Layout.fillWidth: true

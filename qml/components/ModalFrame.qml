@@ -21,8 +21,8 @@ Popup {
 
     contentItem: FocusScope {
         focus: true
-        implicitHeight: children[0]?.implicitHeight ?? 0 // qmllint disable missing-property
-        implicitWidth: children[0]?.implicitWidth ?? 0 // qmllint disable missing-property
+        implicitHeight: children[0]?.implicitHeight ?? 0 // qmllint disable type
+        implicitWidth: children[0]?.implicitWidth ?? 0 // qmllint disable type
 
         Keys.onPressed: event => Fields.goOn(event, root.contentItem, root.mainButton)
     }

@@ -18,7 +18,7 @@ Rectangle {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: title.text
-    Accessible.description: [status.text, table.visible ? table.text : ""].filter(text => text !== "").join(", ")
+    Accessible.description: [status.text, table.visible ? table.text : ""].filter(text => text !== "").join(", ") // qmllint disable type
     Accessible.onPressAction: root.clicked()
 
     Column {

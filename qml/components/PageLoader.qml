@@ -14,13 +14,13 @@ Loader {
         root.sourceComponent = null
         root.sourceComponent = page
         // A page of a shell that is just being pushed is not visible yet.
-        Qt.callLater(root.takeFocus)
+        Qt.callLater(root.takeFocus) // qmllint disable type
     }
 
     function takeFocus(): void {
         if (!root.item)
             return
-        const start = root.item.startItem ?? Fields.typed(root.item)[0] ?? root // qmllint disable missing-property
+        const start = root.item.startItem ?? Fields.typed(root.item)[0] ?? root // qmllint disable type
         start.forceActiveFocus(Qt.OtherFocusReason)
     }
 }

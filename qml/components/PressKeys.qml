@@ -6,8 +6,8 @@ import QtQuick
 Shortcut {
     required property Item button
 
-    // qmllint disable missing-property
+    // qmllint disable type
     enabled: button.visible && button.enabled
     onActivated: button.act()
-    // qmllint enable missing-property
+    // qmllint enable type
 }

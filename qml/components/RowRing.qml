@@ -7,5 +7,5 @@ FocusRing {
     required property Item view
 
     radius: 4
-    visible: view.activeFocus && [view, view.currentItem].includes(view.Window.activeFocusItem) // qmllint disable missing-property
+    visible: view.activeFocus && [view, view.currentItem].includes(view.Window.activeFocusItem) // qmllint disable type
 }
