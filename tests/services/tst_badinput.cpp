@@ -270,7 +270,7 @@ void tst_BadInput::aFullDiskFailsThePaymentWhole()
     // Once there is room again, the very same bill can be paid.
     QVERIFY(m_store->services.checkout.completeCheckout(session, {}, 0));
     QCOMPARE(m_store->text("SELECT status FROM order_sessions"), QStringLiteral("paid"));
-    QCOMPARE(m_store->text("PRAGMA integrity_check"), QStringLiteral("ok"));
+    QCOMPARE(m_store->text("PRAGMA main.integrity_check"), QStringLiteral("ok"));
 }
 
 void tst_BadInput::aFileThatIsNoStoreIsNeitherOpenedNorRestored_data()
