@@ -74,6 +74,14 @@ QRectF lettersOf(const QQuickItem *text)
     return text->mapRectToScene(QRectF(QPointF(x, y), size));
 }
 
+/// A mouse area that is off, or the frame that shows where the keys go: what lies below is pressed.
+bool letsThrough(const QQuickItem *item)
+{
+    const QByteArray type = item->metaObject()->className();
+    return (item->inherits("QQuickMouseArea") && !item->property("enabled").toBool()) ||
+           type.startsWith("FocusRing") || type.startsWith("RowRing");
+}
+
 /// As QQuickItem::childAt, which knows nothing of the order in which items are painted.
 QQuickItem *topmostChild(const QQuickItem *item, QPointF place)
 {
@@ -81,7 +89,8 @@ QQuickItem *topmostChild(const QQuickItem *item, QPointF place)
     std::stable_sort(children.begin(), children.end(),
                      [](const auto *a, const auto *b) { return a->z() < b->z(); });
     for (auto child = children.crbegin(); child != children.crend(); ++child) {
-        if ((*child)->isVisible() && (*child)->contains((*child)->mapFromScene(place))) {
+        if ((*child)->isVisible() && !letsThrough(*child) &&
+            (*child)->contains((*child)->mapFromScene(place))) {
             return *child;
         }
     }
