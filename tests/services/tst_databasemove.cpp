@@ -323,7 +323,7 @@ void tst_DatabaseMove::aDatabaseThatAnotherProgramHasOpenStays()
     {
         QSqlDatabase other = QSqlDatabase::addDatabase("QSQLITE", "other");
         other.setDatabaseName(source);
-        QVERIFY(other.open() && other.exec("SELECT name FROM restaurant").next());
+        QVERIFY(other.open() && QSqlQuery("SELECT name FROM restaurant", other).next());
 
         expectLog(QtWarningMsg, "Database is in use by another program.");
         QVERIFY(!m_service.moveDatabase(inFolder("there")));
