@@ -243,6 +243,9 @@ class Screen:
         left, top, width, height = self.box(thing)
         pointer = [left + width // 2, top + height // 2]
         self.hold(*pointer)
+        # What makes it a drag moves nothing yet.
+        pointer[0] += 12
+        self.move(*pointer)
 
         def arrived():
             here = self.box(thing)
