@@ -87,10 +87,24 @@ QStringList blocksOf(const QString &name, const QString &table, const QString &l
     };
 }
 
-QStringList makeSchema()
+/// Rows that hang on another one, by the column that names it: lines, points, snapshots.
+QStringList followedChildren(const QString &name, const QString &table, const QString &parent)
 {
-    const QString row = QStringLiteral("new.");
+    const QString body =
+        QStringLiteral("INSERT OR REPLACE INTO working_%1 VALUES (new.id, new.%2);")
+            .arg(name, parent);
     return {
+        trigger(name + QStringLiteral("_added"), QStringLiteral("INSERT ON main.%1").arg(table),
+                body),
+        trigger(name + QStringLiteral("_moved"),
+                QStringLiteral("UPDATE OF id, %2 ON main.%1").arg(table, parent), body),
+    };
+}
+
+QStringList tables()
+{
+    return {
+
         QStringLiteral("CREATE TEMP TABLE IF NOT EXISTS working_state (lost INTEGER)"),
         QStringLiteral("CREATE TEMP TABLE IF NOT EXISTS working_sessions (id INTEGER PRIMARY KEY,"
                        " opened_day TEXT, closed_day TEXT, closed_at TEXT, paid INTEGER)"),
@@ -126,7 +140,13 @@ QStringList makeSchema()
                        " ON working_snapshots (session_id)"),
         QStringLiteral("CREATE INDEX IF NOT EXISTS temp.working_bookings_of_table"
                        " ON working_bookings (table_id)"),
+    };
+}
 
+QStringList triggers()
+{
+    const QString row = QStringLiteral("new.");
+    return {
         trigger(QStringLiteral("session_added"), QStringLiteral("INSERT ON main.order_sessions"),
                 QStringLiteral("INSERT OR REPLACE INTO working_sessions (%1) VALUES (%2);")
                     .arg(sessionColumns, sessionValues(row))),
@@ -147,28 +167,6 @@ QStringList makeSchema()
                                "OR old.created_at IS NOT new.created_at"),
                 followed(QStringLiteral("orders"),
                          QStringLiteral("(%1) = (%2)").arg(orderColumns, orderValues(row)))),
-        trigger(QStringLiteral("line_added"), QStringLiteral("INSERT ON main.order_items"),
-                QStringLiteral("INSERT OR REPLACE INTO working_lines VALUES "
-                               "(new.id, new.order_id);")),
-        trigger(QStringLiteral("line_moved"),
-                QStringLiteral("UPDATE OF id, order_id ON main.order_items"),
-                QStringLiteral("INSERT OR REPLACE INTO working_lines VALUES "
-                               "(new.id, new.order_id);")),
-        trigger(QStringLiteral("points_added"),
-                QStringLiteral("INSERT ON main.membership_transactions"),
-                QStringLiteral("INSERT OR REPLACE INTO working_points VALUES "
-                               "(new.id, new.order_session_id);")),
-        trigger(QStringLiteral("points_moved"),
-                QStringLiteral("UPDATE OF id, order_session_id ON main.membership_transactions"),
-                QStringLiteral("INSERT OR REPLACE INTO working_points VALUES "
-                               "(new.id, new.order_session_id);")),
-        trigger(QStringLiteral("snapshot_added"), QStringLiteral("INSERT ON main.receipt_snapshot"),
-                QStringLiteral("INSERT OR REPLACE INTO working_snapshots VALUES "
-                               "(new.id, new.order_session_id);")),
-        trigger(QStringLiteral("snapshot_moved"),
-                QStringLiteral("UPDATE OF id, order_session_id ON main.receipt_snapshot"),
-                QStringLiteral("INSERT OR REPLACE INTO working_snapshots VALUES "
-                               "(new.id, new.order_session_id);")),
         trigger(QStringLiteral("booking_added"), QStringLiteral("INSERT ON main.reservations"),
                 QStringLiteral("INSERT OR REPLACE INTO working_bookings "
                                "SELECT new.id, new.table_id WHERE %1;")
@@ -179,7 +177,12 @@ QStringList makeSchema()
                                "INSERT INTO working_bookings "
                                "SELECT new.id, new.table_id WHERE %1;")
                     .arg(holdsATable(row))),
+    };
+}
 
+QStringList emptied()
+{
+    return {
         QStringLiteral("DELETE FROM temp.working_state"),
         QStringLiteral("DELETE FROM temp.working_sessions"),
         QStringLiteral("DELETE FROM temp.working_orders"),
@@ -218,7 +221,15 @@ const QStringList calendar =
              QStringLiteral("MIN(order_session_id)"), QStringLiteral("MAX(order_session_id)"),
              QStringLiteral("TRUE"));
 
-const QStringList schema = makeSchema();
+const QStringList schema =
+    tables() + triggers() +
+    followedChildren(QStringLiteral("lines"), QStringLiteral("order_items"),
+                     QStringLiteral("order_id")) +
+    followedChildren(QStringLiteral("points"), QStringLiteral("membership_transactions"),
+                     QStringLiteral("order_session_id")) +
+    followedChildren(QStringLiteral("snapshots"), QStringLiteral("receipt_snapshot"),
+                     QStringLiteral("order_session_id")) +
+    emptied();
 
 QString firstSession(const QDate &youngFrom)
 {
