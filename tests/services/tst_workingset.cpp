@@ -459,6 +459,7 @@ class tst_WorkingSet : public ZelvanTest
 private slots:
     void longHistoriesAnswerAlike_data();
     void longHistoriesAnswerAlike();
+    void aStepOfAnOrderOfYearsAgoIsFollowed();
 };
 
 void tst_WorkingSet::longHistoriesAnswerAlike_data()
@@ -497,6 +498,27 @@ void tst_WorkingSet::longHistoriesAnswerAlike()
     }
     QSqlDatabase::removeDatabase(plainName);
     QSqlDatabase::removeDatabase(strangerName);
+}
+
+void tst_WorkingSet::aStepOfAnOrderOfYearsAgoIsFollowed()
+{
+    TestStore store;
+    store.database.run(QStringLiteral(
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 1500) "
+        "INSERT INTO order_sessions (display_number, order_type, status, opened_at, closed_at) "
+        "SELECT i, 'takeaway', 'paid', '2020-01-01 10:00:00', '2020-01-01 11:00:00' FROM n"));
+    store.database.run(
+        QStringLiteral("INSERT INTO orders (order_session_id, display_number, status, created_at) "
+                       "SELECT id, id, 'served', opened_at FROM order_sessions"));
+    QVERIFY(WorkingSet::isReady(DatabaseManager::connection()));
+    QVERIFY(!WorkingSet::holdsOrder(DatabaseManager::connection(), 5));
+
+    QVERIFY(store.services.kitchenOrders.markState(5, QStringLiteral("pending")));
+
+    const QList<Order> pending =
+        store.repositories.orders.getOrdersByStatus(QStringLiteral("pending"));
+    QCOMPARE(pending.size(), 1);
+    QCOMPARE(pending.constFirst().id, 5);
 }
 
 ZELVAN_TEST(tst_WorkingSet)
