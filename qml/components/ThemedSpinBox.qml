@@ -18,6 +18,8 @@ SpinBox {
     editable: true
     font.pixelSize: Theme.fontNormal
     implicitHeight: 40
+    // Not of its parts, as the style has it: the steps go by the width.
+    implicitWidth: 120
     inputMethodHints: Qt.ImhDigitsOnly
     leftPadding: stepWidth
     rightPadding: stepWidth
