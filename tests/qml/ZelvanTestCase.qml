@@ -26,6 +26,8 @@ TestCase {
 
     function init() {
         failOnWarning(/.*/)
+        // What the last function started has been answered.
+        tryVerify(() => !Work.busy)
         TestDb.reset()
         arrange()
     }
