@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "bench/BenchPage.h"
 
-#include "bench/FrameMeter.h"
-
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QQuickItem>
@@ -26,7 +24,6 @@ QQuickItem *find(QQuickItem *item, const std::function<bool(const QQuickItem *)>
 BenchPage::BenchPage(QQmlEngine &engine, const QString &document)
     : m_view(&engine, nullptr)
 {
-    m_opening.start();
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.resize(1920, 1080);
     m_view.setSource(QUrl(QLatin1String("qrc:/qt/qml/zelvan/qml/") + document));
@@ -36,10 +33,10 @@ BenchPage::BenchPage(QQmlEngine &engine, const QString &document)
     m_view.show();
 }
 
-double BenchPage::open()
+QJsonObject BenchPage::open()
 {
     static_cast<void>(measureFrames(m_view, 1, [](int) {}));
-    return double(m_opening.nsecsElapsed()) / 1e6;
+    return m_opening.toJson();
 }
 
 QQuickItem *BenchPage::listOf(qsizetype rows) const

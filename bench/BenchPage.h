@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #pragma once
 
-#include <QElapsedTimer>
+#include "bench/FrameMeter.h"
+
 #include <QQuickView>
 
 #include <functional>
@@ -18,8 +19,8 @@ public:
 
     [[nodiscard]] QQuickWindow &window() { return m_view; }
     [[nodiscard]] QQuickItem *root() const { return m_view.rootObject(); }
-    /// Milliseconds from the constructor until all that was asked of the page so far is on show.
-    [[nodiscard]] double open();
+    /// What passes from the constructor until all that was asked of the page so far is on show.
+    [[nodiscard]] QJsonObject open();
 
     /// The list that has so many rows. Ends the process where there is none.
     [[nodiscard]] QQuickItem *listOf(qsizetype rows) const;
@@ -32,6 +33,6 @@ public:
 private:
     [[nodiscard]] QQuickItem *item(const std::function<bool(const QQuickItem *)> &fits) const;
 
-    QElapsedTimer m_opening;
+    Stopwatch m_opening;
     QQuickView m_view;
 };

@@ -41,6 +41,27 @@ QJsonObject figuresOf(QList<double> times)
 }
 } // namespace
 
+Stopwatch::Stopwatch()
+    : m_elapsed(elapsedMilliseconds())
+    , m_processor(processorMilliseconds())
+{}
+
+double Stopwatch::elapsed() const
+{
+    return elapsedMilliseconds() - m_elapsed;
+}
+
+double Stopwatch::processor() const
+{
+    return processorMilliseconds() - m_processor;
+}
+
+QJsonObject Stopwatch::toJson() const
+{
+    return {{QStringLiteral("elapsed_ms"), elapsed()},
+            {QStringLiteral("processor_ms"), processor()}};
+}
+
 QJsonObject FrameTimes::toJson() const
 {
     return {
@@ -54,11 +75,9 @@ FrameTimes measureFrames(QQuickWindow &window, int steps, const std::function<vo
 {
     FrameTimes times;
     QEventLoop loop;
-    double elapsed = 0.0;
-    double processor = 0.0;
+    Stopwatch frame;
     const auto begin = [&] {
-        elapsed = elapsedMilliseconds();
-        processor = processorMilliseconds();
+        frame = Stopwatch();
         step(int(times.elapsed.size()));
         // A step that changes nothing on show has its frame too.
         window.update();
@@ -67,8 +86,8 @@ FrameTimes measureFrames(QQuickWindow &window, int steps, const std::function<vo
     QObject::connect(
         &window, &QQuickWindow::frameSwapped, &loop,
         [&] {
-            times.elapsed.append(elapsedMilliseconds() - elapsed);
-            times.processor.append(processorMilliseconds() - processor);
+            times.elapsed.append(frame.elapsed());
+            times.processor.append(frame.processor());
             if (times.elapsed.size() < steps) {
                 begin();
             } else {

@@ -9,6 +9,24 @@
 
 class QQuickWindow;
 
+/// What passes from when it was made.
+class Stopwatch final
+{
+public:
+    Stopwatch();
+
+    /// Milliseconds on the clock on the wall.
+    [[nodiscard]] double elapsed() const;
+    /// Milliseconds that the processor worked in this process.
+    [[nodiscard]] double processor() const;
+    /// Both.
+    [[nodiscard]] QJsonObject toJson() const;
+
+private:
+    double m_elapsed;
+    double m_processor;
+};
+
 /// Times from frame to frame, in milliseconds.
 struct FrameTimes
 {

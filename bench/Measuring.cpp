@@ -48,8 +48,16 @@ private:
 /// What the first use after a start pays for.
 void learn()
 {
-    if (!WorkingSet::hasCalendar(DatabaseManager::connection())) {
+    if (!WorkingSet::isReady(DatabaseManager::connection())) {
         qFatal("no working set");
+    }
+}
+
+/// What the first report pays for.
+void learnCalendar()
+{
+    if (!WorkingSet::hasCalendar(DatabaseManager::connection())) {
+        qFatal("no calendar");
     }
 }
 
@@ -58,6 +66,7 @@ std::optional<Recording> recordOn(const Operation &operation, const QString &pat
     BenchStore store(path);
     StatementRecorder recorder(DatabaseManager::connection());
     learn();
+    learnCalendar();
     Recording recording;
     recording.firstUse = recorder.take();
     operation.begin(store.services);
@@ -136,6 +145,7 @@ std::optional<Comparison> compare(const Operation &operation, const QString &his
     {
         BenchStore store(operationFile);
         comparison.firstUse.measure(learn);
+        comparison.firstReport.measure(learnCalendar);
         operation.begin(store.services);
         PlainDatabase floor(floorFile);
         floor.replay(recording->firstUse);

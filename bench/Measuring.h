@@ -37,6 +37,8 @@ struct Comparison
     Timing floor;
     /// What is learned once a start, before the first of them.
     Timing firstUse;
+    /// What the first report learns beyond that, once a start.
+    Timing firstReport;
     /// Of one round.
     qsizetype statements = 0;
     /// SQLite's own steps in one round: they grow with the rows that are looked at, on any

@@ -89,7 +89,7 @@ QPointF placeOf(const QVariantMap &item)
 QJsonObject dragTable(QQmlEngine &engine, const CanvasItemModel &plan, int frames)
 {
     BenchPage page(engine, QStringLiteral("admin/management/AdminFloorPlanManagement.qml"));
-    const double opened = page.open();
+    const QJsonObject opened = page.open();
     const QVariantMap before = plan.get(draggedRow);
     const QQuickItem *table = page.floorItem(before.value(QStringLiteral("label")).toString());
     const QPointF start = table->mapToScene(QPointF(table->width() / 2, table->height() / 2));
@@ -112,7 +112,7 @@ QJsonObject dragTable(QQmlEngine &engine, const CanvasItemModel &plan, int frame
         missed.manhattanLength() > 2.0 * QGuiApplication::styleHints()->startDragDistance()) {
         qFatal("the table did not follow the mouse");
     }
-    return {{QStringLiteral("open_ms"), opened}, {QStringLiteral("dragged"), times.toJson()}};
+    return {{QStringLiteral("open"), opened}, {QStringLiteral("dragged"), times.toJson()}};
 }
 
 /// Scrolls the list on from its start, so many pixels a frame.
@@ -127,11 +127,11 @@ QJsonObject scroll(BenchPage &page, QQuickItem &list, int frames, double pixels)
 /// Once by a row a frame, as with the wheel; once through all of it, as with the scroll bar.
 QJsonObject scrollBothWays(BenchPage &page, qsizetype rows, int frames)
 {
-    const double opened = page.open();
+    const QJsonObject opened = page.open();
     QQuickItem *list = page.listOf(rows);
     const QJsonObject byWheel = scroll(page, *list, frames, 44.0);
     const double way = list->property("contentHeight").toDouble() - list->height();
-    return {{QStringLiteral("open_ms"), opened},
+    return {{QStringLiteral("open"), opened},
             {QStringLiteral("by_wheel"), byWheel},
             {QStringLiteral("by_bar"), scroll(page, *list, frames, way / frames)}};
 }
@@ -146,10 +146,23 @@ QJsonObject scrollMenu(QQmlEngine &engine, MenuService &menu, int category, int 
 QJsonObject scrollSessions(QQmlEngine &engine, int sessions, int frames)
 {
     BenchPage page(engine, QStringLiteral("admin/AdminTaxReports.qml"));
+    const QJsonObject opened = page.open();
+    const Stopwatch report;
     page.root()->setProperty("fromDate", QDateTime::currentDateTime().addYears(-1));
     page.root()->setProperty("toDate", QDateTime::currentDateTime().addDays(1));
     QMetaObject::invokeMethod(page.root(), "loadReport");
-    return scrollBothWays(page, sessions, frames);
+    static_cast<void>(page.open());
+    const QJsonObject reported = report.toJson();
+    QJsonObject figures = scrollBothWays(page, sessions, frames);
+    figures.insert(QStringLiteral("open"), opened);
+    figures.insert(QStringLiteral("report"), reported);
+    return figures;
+}
+
+QJsonObject scrollMembers(QQmlEngine &engine, int frames)
+{
+    BenchPage page(engine, QStringLiteral("admin/management/AdminMembersManagement.qml"));
+    return scrollBothWays(page, HistoryShape::members, frames);
 }
 
 /// The program's objects and screens on that file.
@@ -166,6 +179,7 @@ QJsonObject measure(const QString &path, int category, int sessions, int frames)
          dragTable(engine, *store.services.floorPlan.canvasModel(), frames)},
         {QStringLiteral("menu items"), scrollMenu(engine, store.services.menu, category, frames)},
         {QStringLiteral("tax sessions"), scrollSessions(engine, sessions, frames)},
+        {QStringLiteral("members"), scrollMembers(engine, frames)},
     };
 }
 } // namespace

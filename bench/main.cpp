@@ -74,6 +74,7 @@ void measureOperation(benchmark::State &state, const Operation &operation)
         }
         report(state, *comparison);
         state.counters["first_use_ms"] = comparison->firstUse.medianOfProcessor() * 1e3;
+        state.counters["first_report_ms"] = comparison->firstReport.medianOfProcessor() * 1e3;
         state.counters["steps"] = double(comparison->steps);
     }
 }

@@ -5,6 +5,7 @@
 #include "repositories/BoundedSql.h"
 #include "repositories/Statement.h"
 #include "repositories/WorkingSet.h"
+#include "repositories/WorkingSetSql.h"
 
 namespace {
 const QLoggingCategory &lcDefault()
@@ -46,14 +47,11 @@ TaxSessionRow readSession(const Statement &row)
 }
 
 /// The sessions that may have been closed in the period: the blocks of the calendar that reach into
-/// it, and the held ones, which may have been closed since it was made. A stamp's own first
-/// characters are up to four days before the day that DATE makes of it, and one day behind it.
+/// it, and the held ones, which may have been closed since it was made.
 #define SESSIONS_OF_THE_PERIOD                                                                     \
     "SELECT session.id FROM temp.working_calendar CROSS JOIN order_sessions session"               \
     " ON session.id BETWEEN block * 128 AND block * 128 + 127"                                     \
-    " WHERE high >= COALESCE(DATE(:from, '-4 days'), '')"                                          \
-    " AND low < COALESCE(DATE(:to, '+2 days'), x'')"                                               \
-    " UNION SELECT id FROM temp.working_sessions"
+    " WHERE " ZELVAN_BLOCK_OF_THE_PERIOD("") " UNION SELECT id FROM temp.working_sessions"
 
 constexpr auto amongPeriod = "AND id IN (" SESSIONS_OF_THE_PERIOD ")";
 
@@ -72,7 +70,9 @@ const BoundedSql sumsSql(R"(
 
 bool readSums(const QSqlDatabase &database, TaxSummary &summary)
 {
-    Statement statement(database, sumsSql.text(WorkingSet::hasCalendar(database)), summaryFailure);
+    Statement statement(database,
+                        sumsSql.text(WorkingSet::narrows(database, summary.from, summary.to)),
+                        summaryFailure);
     bindPeriod(statement, summary.from, summary.to);
     if (!statement.run() || !statement.next()) {
         return false;
@@ -101,15 +101,15 @@ const BoundedSql identitySql(R"(
         WHERE EXISTS (
             SELECT 1 FROM temp.working_calendar day
             WHERE day.block BETWEEN block.low >> 7 AND block.high >> 7
-            AND day.high >= COALESCE(DATE(:from, '-4 days'), '')
-            AND day.low < COALESCE(DATE(:to, '+2 days'), x''))
+            AND )" ZELVAN_BLOCK_OF_THE_PERIOD("day.") R"()
         UNION SELECT id FROM temp.working_snapshots))",
                              amongPeriod);
 
 /// The tax as the latest sale of the period named it.
 void readIdentity(const QSqlDatabase &database, TaxSummary &summary)
 {
-    Statement statement(database, identitySql.text(WorkingSet::hasCalendar(database)),
+    Statement statement(database,
+                        identitySql.text(WorkingSet::narrows(database, summary.from, summary.to)),
                         summaryFailure);
     bindPeriod(statement, summary.from, summary.to);
     if (!statement.run() || !statement.next()) {
@@ -152,7 +152,8 @@ const BoundedSql getDailyBreakdownSql(R"(
 
 QList<TaxDailyRow> TaxReportRepository::getDailyBreakdown(const QDate &from, const QDate &to) const
 {
-    Statement statement(m_database, getDailyBreakdownSql.text(WorkingSet::hasCalendar(m_database)),
+    Statement statement(m_database,
+                        getDailyBreakdownSql.text(WorkingSet::narrows(m_database, from, to)),
                         {"TaxReportRepository::getDailyBreakdown failed:", lcDefault});
     bindPeriod(statement, from, to);
     return statement.rows(readDay);
@@ -170,7 +171,7 @@ const BoundedSql getSessionsSql(R"(
 
 QList<TaxSessionRow> TaxReportRepository::getSessions(const QDate &from, const QDate &to) const
 {
-    Statement statement(m_database, getSessionsSql.text(WorkingSet::hasCalendar(m_database)),
+    Statement statement(m_database, getSessionsSql.text(WorkingSet::narrows(m_database, from, to)),
                         {"TaxReportRepository::getSessions failed:", lcDefault});
     bindPeriod(statement, from, to);
     return statement.rows(readSession);

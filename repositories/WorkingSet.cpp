@@ -156,6 +156,17 @@ bool WorkingSet::hasCalendar(const QSqlDatabase &database)
     return set->m_calendarMade;
 }
 
+bool WorkingSet::narrows(const QSqlDatabase &database, const QDate &from, const QDate &to)
+{
+    if (!hasCalendar(database)) {
+        return false;
+    }
+    Statement statement(database, WorkingSetSql::isNarrow, {nullptr});
+    statement.bind(":from", from.toString(Qt::ISODate));
+    statement.bind(":to", to.toString(Qt::ISODate));
+    return statement.run() && statement.next() && statement.boolean(0);
+}
+
 /// It no longer stands after a write of another program, after a change of this one that it cannot
 /// follow, and after a clock that went back further than it reaches.
 bool WorkingSet::isCurrent(const QSqlDatabase &database) const

@@ -42,6 +42,10 @@ public:
     /// Whether the map of older sessions stands beside it, in which a period is looked up; makes it
     /// at the first question.
     [[nodiscard]] static bool hasCalendar(const QSqlDatabase &database);
+    /// Whether looking that period up there is worth it: where it is most of the history, reading
+    /// the table from end to end is quicker. UTC days, both included.
+    [[nodiscard]] static bool narrows(const QSqlDatabase &database, const QDate &from,
+                                      const QDate &to);
 
     /// From now on the connection's statements are unbounded.
     static void turnOff(const QSqlDatabase &database);

@@ -10,20 +10,24 @@ QString dayOf(const QString &stamp)
     return QStringLiteral("CASE WHEN substr(%1, 5, 1) = '-' THEN DATE(%1) END").arg(stamp);
 }
 
-/// Whether the stamp's day may be the given one or a later one. As a text, so that years of rows
-/// are passed in a moment: beside plain dates SQLite also takes a day's number, which may begin
-/// with any sign.
+/// Whether the stamp's day may be the given one or a later one. As a text and by two comparisons,
+/// so that years of rows are passed in a moment: beside plain dates SQLite also takes a day's
+/// number, which may begin with any sign, and so everything that does not read like an earlier day
+/// of this millennium counts as young.
 QString isYoung(const QString &stamp, const QDate &youngFrom)
 {
-    return QStringLiteral("(%1 >= '%2' OR %1 < '1' OR (%1 >= '2.' AND %1 < '2/'))")
+    return QStringLiteral("NOT (%1 >= '20' AND %1 < '%2')")
         .arg(stamp, youngFrom.toString(Qt::ISODate));
 }
 
 /// Of a row that hangs on another one: whether that one is held. Below the first id these are few,
-/// such as the bill that was forgotten open years ago.
+/// such as the bill that was forgotten open years ago: what lies outside of these few is passed by
+/// two comparisons.
 QString hangsOn(const QString &column, const QString &table, qlonglong first)
 {
-    return QStringLiteral("(%1 >= %3 OR %1 IN (SELECT id FROM temp.%2 WHERE id < %3))")
+    return QStringLiteral("(%1 >= %3 OR (%1 BETWEEN (SELECT MIN(id) FROM temp.%2)"
+                          " AND (SELECT MAX(id) FROM temp.%2 WHERE id < %3)"
+                          " AND %1 IN (SELECT id FROM temp.%2 WHERE id < %3)))")
         .arg(column, table)
         .arg(first);
 }
@@ -208,6 +212,9 @@ const char *const lastPaid = R"(
 const char *const latestOutside = R"(
     SELECT MAX(closed_at) FROM order_sessions
     WHERE id NOT IN (SELECT id FROM temp.working_sessions))";
+
+const char *const isNarrow =
+    "SELECT 2 * TOTAL(" ZELVAN_BLOCK_OF_THE_PERIOD("") ") < COUNT(*) FROM temp.working_calendar";
 
 const QStringList calendar =
     // A stamp that is not written plainly may be of any day: its block is in every period.

@@ -15,6 +15,14 @@ extern const char *const state;
 extern const char *const lastPaid;
 /// The latest closing time outside of the set.
 extern const char *const latestOutside;
+/// Whether the blocks that reach into a period are fewer than half of the older ones.
+extern const char *const isNarrow;
+/// The condition on a block, for `:from` and `:to` as ISO texts: whether a session of it may have
+/// been closed in the period. A stamp's own first characters are up to four days before the day
+/// that DATE makes of it, and one day behind it.
+#define ZELVAN_BLOCK_OF_THE_PERIOD(block)                                                          \
+    block "high >= COALESCE(DATE(:from, '-4 days'), '') AND " block                                \
+          "low < COALESCE(DATE(:to, '+2 days'), x'')"
 /// The steps that make the map of older sessions: which stamps each block of ids holds.
 extern const QStringList calendar;
 /// Tables and triggers, where they are not there yet; all of them empty then.

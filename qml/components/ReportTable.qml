@@ -7,7 +7,8 @@ import zelvan.Theme 1.0
 
 // A titled table of a report. A column is `{ title, width, least, text }`: its heading, its width (0
 // takes the rest) and what it shrinks to before the rest gets narrow, and the function from a row to
-// its text. The rows on screen are all that is made.
+// its text. The rows on screen are all that is made, and they read their places in the list of rows: as
+// a model of its own that list would be turned into another one first, row by row.
 ColumnLayout {
     id: root
 
@@ -41,12 +42,14 @@ ColumnLayout {
     }
 
     spacing: 8
+    onRowsChanged: list.positionViewAtBeginning()
 
     component Cells: Row {
         id: cells
 
-        // Null in the heading.
-        property var row: null
+        property bool heading: false
+        // What stands in it; nothing in the heading.
+        property var row
 
         spacing: 8
 
@@ -60,9 +63,9 @@ ColumnLayout {
 
                 anchors.verticalCenter: parent?.verticalCenter
                 width: root.columnWidth(modelData)
-                text: cells.row ? modelData.text(cells.row) : modelData.title
-                color: cells.row ? Theme.text : Theme.secondaryText
-                font.bold: !cells.row
+                text: cells.heading ? modelData.title : cells.row ? modelData.text(cells.row) : ""
+                color: cells.heading ? Theme.secondaryText : Theme.text
+                font.bold: cells.heading
                 font.pixelSize: Theme.fontSmall
                 elide: rest && narrow ? Text.ElideNone : Text.ElideRight
                 fontSizeMode: rest ? Text.FixedSize : Text.HorizontalFit
@@ -81,6 +84,7 @@ ColumnLayout {
         Layout.preferredHeight: 42
         Layout.leftMargin: 12
         Layout.rightMargin: 12
+        heading: true
     }
 
     ScrollingList {
@@ -88,7 +92,7 @@ ColumnLayout {
 
         Layout.fillWidth: true
         Layout.fillHeight: true
-        model: root.rows
+        model: root.rows.length
 
         Accessible.role: Accessible.List
         Accessible.name: root.title
@@ -96,15 +100,16 @@ ColumnLayout {
         delegate: Rectangle {
             id: rowItem
 
-            required property var modelData
             required property int index
+            // Nothing for a moment, while the list gets shorter.
+            readonly property var row: root.rows[index]
 
             width: list.rowWidth
             height: Math.max(42, cells.implicitHeight + 4)
             color: index % 2 === 0 ? Theme.background : Theme.surface
 
             Accessible.role: Accessible.ListItem
-            Accessible.name: root.columns.map((column, place) => (place > 0 ? column.title + " " : "") + column.text(modelData)).join(", ")
+            Accessible.name: row ? root.columns.map((column, place) => (place > 0 ? column.title + " " : "") + column.text(row)).join(", ") : ""
 
             Cells {
                 id: cells
@@ -112,7 +117,7 @@ ColumnLayout {
                 anchors.fill: parent
                 anchors.leftMargin: 12
                 anchors.rightMargin: 12
-                row: rowItem.modelData
+                row: rowItem.row
             }
         }
 

@@ -185,7 +185,7 @@ struct Answers
             wordsOf(r.analytics.revenueByHourToday()),
             wordsOf(r.analytics.revenueLastSevenDays()),
             tax.text(),
-            wordsOf(r.taxReports.getDailyBreakdown(day.addDays(-40), day)),
+            wordsOf(r.taxReports.getDailyBreakdown(day.addDays(-5), day)),
             wordsOf(r.taxReports.getSessions(day.addDays(-1), day.addDays(1))),
         };
         for (const char *status : {"pending", "in_progress", "ready", "served"}) {
