@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/DatabaseManager.h"
+#include "core/FontsAhead.h"
 #include "core/Logging.h"
 #include "core/MainWindow.h"
 #include "core/Repositories.h"
@@ -24,6 +25,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(QStringLiteral("Zelvan"));
     QCoreApplication::setApplicationName(QStringLiteral("ZelvanPOS"));
     initLogging();
+    const FontsAhead fontsAhead;
     QQuickStyle::setStyle(QStringLiteral("Fusion"));
 
     // Before any connection exists, so that the file may be overwritten. The start goes on on

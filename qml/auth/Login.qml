@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Window
 import Zelvan.Services 1.0
 import zelvan
 import zelvan.Theme 1.0
