@@ -3,6 +3,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -32,18 +33,24 @@ public:
     void close();
 
 private:
+    class Bell;
     struct Meeting
     {
         bool guiHasCome = false;
         bool over = false;
     };
 
-    explicit GuiRendezvous(QObject *host);
+    GuiRendezvous() = default;
+    /// With the lock held, and not once closed.
+    void call(std::function<void()> work);
+    /// On the GUI thread: does the call that is due for longest.
+    void comeOnce();
     void stand(Meeting &meeting);
 
     // Not Qt's: these are seen by the tools that look for races.
     std::mutex m_mutex;
     std::condition_variable m_changed;
+    std::deque<std::function<void()>> m_calls;
     /// Null once closed.
-    QObject *m_host;
+    Bell *m_bell = nullptr;
 };

@@ -25,6 +25,7 @@ private slots:
     void onceClosedNobodyIsWaitedFor();
     void whoeverWaitsAtTheCloseIsSentAway();
     void whatIsPostedComesOnTheGuiThread();
+    void whatIsPostedWhileTheGuiThreadIsAtWorkIsSeenWhole();
     void nothingPostedComesAfterTheClose();
     void itOutlivesItsObject();
 
@@ -172,6 +173,31 @@ void tst_GuiRendezvous::whatIsPostedComesOnTheGuiThread()
 
     QCOMPARE(working, std::thread::id());
     QTRY_COMPARE(working, std::this_thread::get_id());
+}
+
+/// For the thread sanitizer: nothing but the rendezvous puts the two threads in order here, neither
+/// the event loop's waking up nor the end of the other thread.
+void tst_GuiRendezvous::whatIsPostedWhileTheGuiThreadIsAtWorkIsSeenWhole()
+{
+    QObject host;
+    const auto rendezvous = GuiRendezvous::of(&host);
+    std::atomic<bool> posted = false;
+    std::thread other;
+    std::vector<int> seen;
+
+    rendezvous->post([&] {
+        other = std::thread([&] {
+            rendezvous->post([&seen, numbers = std::vector{1, 2, 3}] { seen = numbers; });
+            posted.store(true, std::memory_order_relaxed);
+        });
+        while (!posted.load(std::memory_order_relaxed)) {
+            std::this_thread::yield();
+        }
+    });
+    QCoreApplication::processEvents();
+    other.join();
+
+    QCOMPARE(seen, std::vector({1, 2, 3}));
 }
 
 void tst_GuiRendezvous::nothingPostedComesAfterTheClose()
