@@ -126,7 +126,7 @@ FILES = {
     "reserved bytes 255": ("bad", at(20, b"\xff")),
     "payload fractions": ("bad", at(21, b"\0\0\0")),
     "schema format 99": ("bad", at(44, b"\0\0\0\x63")),
-    "encoding 9": ("bad", at(56, b"\0\0\0\x09")),
+    "the encoding of another file": ("bad", at(56, b"\0\0\0\x03")),
     # Schemas
     "identity is an endless view": ("bad", instead_of_table(
         "app_state", ENDLESS + "SELECT 'app.id' AS key, 'x' AS value FROM n WHERE i < 0")),
@@ -176,6 +176,8 @@ FILES = {
     "pages of 512 bytes": ("good", rebuilt("page_size = 512")),
     "pages of 65536 bytes": ("good", rebuilt("page_size = 65536")),
     "written in UTF-16": ("good", as_utf16),
+    # SQLite looks at two bits of it, which say what they should.
+    "encoding 9": ("good", at(56, b"\0\0\0\x09")),
     "in the log's mode without a log": ("good", sql("PRAGMA journal_mode = WAL")),
     # Values
     "prices are texts": ("good", sql("UPDATE menu SET price = 'free'", "UPDATE order_items SET price = 'x'")),

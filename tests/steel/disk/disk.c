@@ -129,9 +129,14 @@ __attribute__((destructor)) static void end(void)
     put(fd, line, (size_t)snprintf(line, sizeof line, "change %ld\n", changes));
 }
 
+// The root ends with a slash; the folder itself counts too, by its name without one.
 static bool watched(const char *path)
 {
-    return root && path && strncmp(path, root, strlen(root)) == 0;
+    if (!root || !path)
+        return false;
+    const size_t length = strlen(root);
+    return strncmp(path, root, length) == 0 ||
+           (strlen(path) + 1 == length && strncmp(path, root, length - 1) == 0);
 }
 
 static bool watched_fd(int fd)
