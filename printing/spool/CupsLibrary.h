@@ -9,11 +9,11 @@
 class QString;
 
 #define ZELVAN_CUPS_CALLS(CALL)                                                                    \
-    CALL(cupsCancelJob2)                                                                           \
-    CALL(cupsDoRequest)                                                                            \
     CALL(cupsEncryption)                                                                           \
     CALL(cupsFinishDocument)                                                                       \
+    CALL(cupsGetResponse)                                                                          \
     CALL(cupsLastError)                                                                            \
+    CALL(cupsSendRequest)                                                                          \
     CALL(cupsServer)                                                                               \
     CALL(cupsSetPasswordCB2)                                                                       \
     CALL(cupsSetUser)                                                                              \
@@ -27,6 +27,7 @@ class QString;
     CALL(httpGetFd)                                                                                \
     CALL(httpGetStatus)                                                                            \
     CALL(httpSetTimeout)                                                                           \
+    CALL(ippAddInteger)                                                                            \
     CALL(ippAddString)                                                                             \
     CALL(ippAddStrings)                                                                            \
     CALL(ippDelete)                                                                                \
@@ -35,6 +36,7 @@ class QString;
     CALL(ippGetInteger)                                                                            \
     CALL(ippGetName)                                                                               \
     CALL(ippGetString)                                                                             \
+    CALL(ippLength)                                                                                \
     CALL(ippNewRequest)                                                                            \
     CALL(ippNextAttribute)                                                                         \
     CALL(ippPort)

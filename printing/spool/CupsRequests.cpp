@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -50,6 +51,35 @@ ipp_t *requestTo(const CupsConnection &connection, ipp_op_t operation, const std
                       connection.user());
     return request;
 }
+
+using Response = std::unique_ptr<ipp_t, decltype(CupsLibrary::ippDelete)>;
+
+/// Takes the request; null where no answer came. The ready-made call of CUPS asks again for ever
+/// where a server says neither yes nor no, such as "moved": here only what can help is asked again,
+/// a proof of who is asking and a way that nobody listens to.
+Response responseTo(CupsConnection &connection, ipp_t *request, const std::string &resource)
+{
+    const CupsLibrary &cups = connection.cups();
+    const Response owned(request, cups.ippDelete);
+    Response response(nullptr, cups.ippDelete);
+    http_status_t status = HTTP_STATUS_UNAUTHORIZED;
+    while (!response && connection.alive() &&
+           (status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_UPGRADE_REQUIRED)) {
+        status = cups.cupsSendRequest(connection.http(), request, resource.c_str(),
+                                      cups.ippLength(request));
+        if (status == HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK) {
+            response.reset(cups.cupsGetResponse(connection.http(), resource.c_str()));
+            status = cups.httpGetStatus(connection.http());
+        }
+    }
+    return response;
+}
+
+/// Without an answer the last status may still be that of an earlier exchange.
+bool succeeded(const CupsConnection &connection, const Response &response)
+{
+    return response && CupsConnection::isSuccess(connection.cups().cupsLastError());
+}
 } // namespace
 
 /// One request for all queues: the ready-made call of CUPS makes several, each with a wait of its
@@ -61,13 +91,12 @@ std::optional<std::vector<RawSpooler::PrinterInfo>> CupsRequests::queues(CupsCon
     ipp_t *request = cups.ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
     cups.ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", 2,
                        nullptr, attributes);
-    ipp_t *response = cups.cupsDoRequest(connection.http(), request, "/");
+    const Response response = responseTo(connection, request, "/");
     // Without any queue the server says "not found".
-    const ipp_status_t status = cups.cupsLastError();
-    const bool answered = CupsConnection::isSuccess(status) || status == IPP_STATUS_ERROR_NOT_FOUND;
-    std::vector<RawSpooler::PrinterInfo> found = destinations(cups, response);
-    cups.ippDelete(response);
-    return connection.answered(answered) ? std::optional(std::move(found)) : std::nullopt;
+    const bool answered =
+        succeeded(connection, response) || cups.cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND;
+    return connection.answered(answered) ? std::optional(destinations(cups, response.get()))
+                                         : std::nullopt;
 }
 
 bool CupsRequests::queueExists(CupsConnection &connection, const std::string &queue)
@@ -76,8 +105,7 @@ bool CupsRequests::queueExists(CupsConnection &connection, const std::string &qu
     ipp_t *request = requestTo(connection, IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
     cups.ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                       "printer-name");
-    cups.ippDelete(cups.cupsDoRequest(connection.http(), request, "/"));
-    return connection.answered(CupsConnection::isSuccess(cups.cupsLastError()));
+    return connection.answered(succeeded(connection, responseTo(connection, request, "/")));
 }
 
 /// The request of cupsCreateJob without its search for the queue, which would wait for minutes on a
@@ -88,12 +116,9 @@ int CupsRequests::createJob(CupsConnection &connection, const std::string &queue
     const CupsLibrary &cups = connection.cups();
     ipp_t *request = requestTo(connection, IPP_OP_CREATE_JOB, queue);
     cups.ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, title.c_str());
-    const std::string resource = "/printers/" + queue;
-    ipp_t *response = cups.cupsDoRequest(connection.http(), request, resource.c_str());
-    ipp_attribute_t *id = cups.ippFindAttribute(response, "job-id", IPP_TAG_INTEGER);
-    const int job =
-        CupsConnection::isSuccess(cups.cupsLastError()) && id ? cups.ippGetInteger(id, 0) : 0;
-    cups.ippDelete(response);
+    const Response response = responseTo(connection, request, "/printers/" + queue);
+    ipp_attribute_t *id = cups.ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
+    const int job = succeeded(connection, response) && id ? cups.ippGetInteger(id, 0) : 0;
     return connection.answered(job > 0) ? job : 0;
 }
 
@@ -124,6 +149,7 @@ bool CupsRequests::finishDocument(CupsConnection &connection, const std::string 
 
 bool CupsRequests::cancelJob(CupsConnection &connection, const std::string &queue, int job)
 {
-    return connection.answered(CupsConnection::isSuccess(
-        connection.cups().cupsCancelJob2(connection.http(), queue.c_str(), job, 0)));
+    ipp_t *request = requestTo(connection, IPP_OP_CANCEL_JOB, queue);
+    connection.cups().ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
+    return connection.answered(succeeded(connection, responseTo(connection, request, "/jobs/")));
 }

@@ -60,6 +60,8 @@ private slots:
     void aServerLostMidWayIsAnErrorThatCostsOneWait();
     void aServerThatNeverStopsSendingIsAnErrorInTwoSeconds_data();
     void aServerThatNeverStopsSendingIsAnErrorInTwoSeconds();
+    void aServerThatSaysNeitherYesNorNoIsNotAskedForEver_data();
+    void aServerThatSaysNeitherYesNorNoIsNotAskedForEver();
     void aNameThatIsLookedUpForEverIsAnErrorInTwoSeconds();
 
 private:
@@ -342,6 +344,44 @@ void tst_CupsSpooler::aServerThatNeverStopsSendingIsAnErrorInTwoSeconds()
     QCOMPARE(spooler.getLastError(), std::uint32_t(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE));
     // Nobody goes on listening to it.
     QTRY_VERIFY(server.isLeft());
+}
+
+void tst_CupsSpooler::aServerThatSaysNeitherYesNorNoIsNotAskedForEver_data()
+{
+    QTest::addColumn<QByteArray>("answer");
+
+    QTest::newRow("moved") << QByteArray("HTTP/1.1 301 Moved Permanently\r\nLocation: /\r\n"
+                                         "Content-Length: 0\r\n\r\n");
+    QTest::newRow("not modified") << QByteArray("HTTP/1.1 304 Not Modified\r\n\r\n");
+    QTest::newRow("switching") << QByteArray("HTTP/1.1 101 Switching Protocols\r\n\r\n");
+    QTest::newRow("processing") << QByteArray("HTTP/1.1 102 Processing\r\n\r\n");
+    QTest::newRow("upgrade") << QByteArray("HTTP/1.1 426 Upgrade Required\r\nUpgrade: TLS/1.2\r\n"
+                                           "Connection: Upgrade\r\nContent-Length: 0\r\n\r\n");
+    QTest::newRow("a garbled upgrade") << QByteArray(
+        "HTTP/1.1 426 Upgrade Requ\r\nUpg\xff"
+        "ade: TLS/\x01\r\nConnection: Upgra\r\n\r\nHTTP/1.1 426 Upgrade Required\r\n\r\n");
+    QTest::newRow("who are you") << QByteArray(
+        "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"x\"\r\n"
+        "Content-Length: 0\r\n\r\n");
+    QTest::newRow("no expectations")
+        << QByteArray("HTTP/1.1 417 Expectation Failed\r\nContent-Length: 0\r\n\r\n");
+}
+
+void tst_CupsSpooler::aServerThatSaysNeitherYesNorNoIsNotAskedForEver()
+{
+    QFETCH(QByteArray, answer);
+    constexpr int fewConnections = 10;
+    const RestlessServer server(answer, {}, {});
+    useServer(server.port());
+    CupsSpooler spooler;
+    QElapsedTimer clock;
+
+    clock.start();
+    RawSpooler::Handle handle = 0;
+    QVERIFY(!spooler.openPrinter(u"TM88", handle));
+    QVERIFY2(clock.elapsed() < promisedMs, qPrintable(QString::number(clock.elapsed())));
+
+    QVERIFY2(server.clients() < fewConnections, qPrintable(QString::number(server.clients())));
 }
 
 void tst_CupsSpooler::aNameThatIsLookedUpForEverIsAnErrorInTwoSeconds()

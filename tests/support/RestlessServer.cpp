@@ -48,12 +48,38 @@ RestlessServer::~RestlessServer()
     ::shutdown(m_listening, SHUT_RDWR);
     m_thread.join();
     ::close(m_listening);
+    for (const int client : m_hungUp) {
+        ::close(client);
+    }
 }
 
 void RestlessServer::serve()
 {
-    const int client = ::accept(m_listening, nullptr, nullptr);
-    bool there = client >= 0 && sendAll(client, m_once);
+    for (;;) {
+        const int client = ::accept(m_listening, nullptr, nullptr);
+        if (client < 0) {
+            return;
+        }
+        ++m_clients;
+        if (m_again.isEmpty()) {
+            hangUpOn(client);
+        } else {
+            flood(client);
+        }
+    }
+}
+
+void RestlessServer::hangUpOn(int client)
+{
+    sendAll(client, m_once);
+    ::shutdown(client, SHUT_WR);
+    // Closed now, what it has not read yet would take the answer away from it.
+    m_hungUp.push_back(client);
+}
+
+void RestlessServer::flood(int client)
+{
+    bool there = sendAll(client, m_once);
     while (there) {
         there = sendAll(client, m_again);
         std::this_thread::sleep_for(m_pause);

@@ -7,9 +7,11 @@
 #include <atomic>
 #include <chrono>
 #include <thread>
+#include <vector>
 
 /// A server on a port of 127.0.0.1 that never stops sending: something once, then something again
-/// and again, whatever it is asked. It serves one client and ends when that one has gone.
+/// and again, whatever it is asked; where there is nothing to send again, it hangs up. It serves
+/// one client after the other.
 class RestlessServer final
 {
 public:
@@ -19,11 +21,14 @@ public:
     RestlessServer &operator=(const RestlessServer &) = delete;
 
     [[nodiscard]] quint16 port() const { return m_port; }
-    /// Whether the client has come and gone.
+    /// Whether a client that something was sent to again and again has gone.
     [[nodiscard]] bool isLeft() const { return m_left; }
+    [[nodiscard]] int clients() const { return m_clients; }
 
 private:
     void serve();
+    void hangUpOn(int client);
+    void flood(int client);
 
     QByteArray m_once;
     QByteArray m_again;
@@ -31,5 +36,7 @@ private:
     int m_listening;
     quint16 m_port = 0;
     std::atomic<bool> m_left = false;
+    std::atomic<int> m_clients = 0;
+    std::vector<int> m_hungUp;
     std::thread m_thread;
 };

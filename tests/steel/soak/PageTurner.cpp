@@ -52,6 +52,8 @@ void PageTurner::next()
 void PageTurner::toLogin()
 {
     run(page(QStringLiteral("auth/Login")));
+    // A step inside a home page stands only behind the one that opens it.
+    m_next = 0;
     m_engine.collectGarbage();
     QCoreApplication::processEvents();
 }

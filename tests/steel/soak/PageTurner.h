@@ -13,7 +13,7 @@ public:
     explicit PageTurner(QQmlApplicationEngine &engine);
 
     void next();
-    /// The page that shows nothing of the store, with the last one gone.
+    /// The page that shows nothing of the store, with the last one gone; the round begins anew.
     void toLogin();
 
 private:
