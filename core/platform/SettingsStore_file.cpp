@@ -99,6 +99,8 @@ bool SettingsStore::store(const Changes &changes)
     const QString draft = QStringLiteral("%1.new%2").arg(store).arg(++count);
     // The store's own file is left alone until another one holds all of it.
     QFile::remove(draft);
+    // An empty one, left by a power cut, would be waited for.
+    QFile::remove(draft + QStringLiteral(".lock"));
     const bool isStored = Durable::makeFolder(QFileInfo(store).absolutePath()) &&
                           prepare(draft, store, changes) && putInPlace(draft, store);
     if (!isStored) {

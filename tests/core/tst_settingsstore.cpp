@@ -5,6 +5,7 @@
 #include "support/ZelvanTest.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
@@ -25,6 +26,7 @@ private slots:
     void whereTheFolderCannotBeMadeNothingIsStored();
     void aLinkedStoreStaysALink();
     void theStoreIsForItsUserAlone();
+    void whatAPowerCutLeftOfADraftIsNotWaitedFor();
 };
 
 void tst_SettingsStore::init()
@@ -131,6 +133,26 @@ void tst_SettingsStore::theStoreIsForItsUserAlone()
                                       QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
     QVERIFY(!(store.permissions() & others));
     QVERIFY(!(QFileInfo(store.absolutePath()).permissions() & others));
+}
+
+void tst_SettingsStore::whatAPowerCutLeftOfADraftIsNotWaitedFor()
+{
+    constexpr int anyDraft = 200;
+    const QString store = QSettings().fileName();
+    QVERIFY(QDir().mkpath(QFileInfo(store).absolutePath()));
+    for (int number = 1; number <= anyDraft; ++number) {
+        for (const char *ending : {"", ".lock"}) {
+            QFile left(QStringLiteral("%1.new%2%3").arg(store).arg(number).arg(ending));
+            QVERIFY(left.open(QIODevice::WriteOnly));
+        }
+    }
+    QElapsedTimer clock;
+    clock.start();
+
+    QVERIFY(SettingsStore::store({{"a/key", "text"}}));
+
+    QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(QSettings().value("a/key").toString(), QStringLiteral("text"));
 }
 
 ZELVAN_TEST(tst_SettingsStore)
