@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/DatabaseManager.h"
+#include "core/SettingsStore.h"
 #include "services/AppService.h"
 #include "services/DatabaseService.h"
 #include "services/SettingsKeys.h"
@@ -13,6 +14,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+
+#include <sys/stat.h>
 
 /// What a power cut would leave: nothing is removed, and no success told, before that which takes
 /// its place is known to be on the disk.
@@ -35,10 +38,15 @@ private slots:
     void aBackupThatCannotBeSyncedFails();
     void aNewDatabaseIsSyncedBeforeItsPathIsSaved();
     void aNewDatabaseThatCannotBeSyncedFails();
+    void settingsThatCannotBeSyncedAreTheOldFileAgain();
+    void withoutSecondNamesTheOldSettingsComeBackFromACopy();
+    void theFirstSettingsThatCannotBeSyncedAreTakenAway();
 
 private:
     void openStore(const QString &path);
     [[nodiscard]] QString settingsFolder() const;
+    /// What lies in the settings' folder, each name with the file behind it and its content.
+    [[nodiscard]] QStringList settingsFiles() const;
     /// The rename that puts a new file of settings in the old one's place.
     [[nodiscard]] static QString settingsRename(const DiskLog &disk);
     [[nodiscard]] QString sync(const QString &name) const { return "sync " + inFolder(name); }
@@ -67,6 +75,24 @@ void tst_Durability::openStore(const QString &path)
 QString tst_Durability::settingsFolder() const
 {
     return QFileInfo(QSettings().fileName()).absolutePath();
+}
+
+QStringList tst_Durability::settingsFiles() const
+{
+    QStringList found;
+    const QDir folder(settingsFolder());
+    for (const QString &name : folder.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
+        QFile file(folder.filePath(name));
+        struct stat status = {};
+        if (!file.open(QIODevice::ReadOnly) || fstat(file.handle(), &status) != 0) {
+            return {};
+        }
+        found.append(QStringLiteral("%1 %2 %3")
+                         .arg(name)
+                         .arg(status.st_ino)
+                         .arg(QString::fromUtf8(file.readAll())));
+    }
+    return found;
 }
 
 QString tst_Durability::settingsRename(const DiskLog &disk)
@@ -243,6 +269,48 @@ void tst_Durability::aNewDatabaseThatCannotBeSyncedFails()
     QCOMPARE(m_setup.initializeApp(inFolder("Zelvan.db")), SetupService::InitializationFailed);
 
     QVERIFY(!m_app.hasDatabasePath());
+}
+
+void tst_Durability::settingsThatCannotBeSyncedAreTheOldFileAgain()
+{
+    QVERIFY(SettingsStore::store({{"a/key", "old"}}));
+    const QStringList before = settingsFiles();
+    QCOMPARE(before.size(), 1);
+    const DiskLog disk;
+    DiskLog::failSyncOf(settingsFolder(), QSettings().fileName());
+
+    QVERIFY(!SettingsStore::store({{"a/key", "new"}}));
+
+    const QString kept = QSettings().fileName() + ".old";
+    QVERIFY(disk.hasInOrder({"link " + kept, settingsRename(disk), "rename " + kept}));
+    QCOMPARE(settingsFiles(), before);
+    QCOMPARE(QSettings().value("a/key").toString(), QStringLiteral("old"));
+}
+
+void tst_Durability::withoutSecondNamesTheOldSettingsComeBackFromACopy()
+{
+    QVERIFY(SettingsStore::store({{"a/key", "old"}}));
+    const DiskLog disk;
+    DiskLog::failLinks();
+
+    QVERIFY(SettingsStore::store({{"a/key", "newer"}}));
+    DiskLog::failSyncOf(settingsFolder(), QSettings().fileName());
+    QVERIFY(!SettingsStore::store({{"a/key", "newest"}}));
+
+    QCOMPARE(QSettings().value("a/key").toString(), QStringLiteral("newer"));
+    QCOMPARE(settingsFiles().size(), 1);
+}
+
+void tst_Durability::theFirstSettingsThatCannotBeSyncedAreTakenAway()
+{
+    QVERIFY(QFile::remove(QSettings().fileName()));
+    const DiskLog disk;
+    DiskLog::failSyncOf(settingsFolder(), QSettings().fileName());
+
+    QVERIFY(!SettingsStore::store({{"a/key", "new"}}));
+
+    QCOMPARE(settingsFiles(), QStringList());
+    QVERIFY(!QSettings().contains("a/key"));
 }
 
 ZELVAN_TEST(tst_Durability)

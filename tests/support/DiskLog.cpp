@@ -16,6 +16,9 @@ struct Record
     bool isListening = false;
     QStringList calls;
     QString failingPath;
+    /// Nothing fails before a rename to it, where it is not empty.
+    QString awaitedRename;
+    bool linksFail = false;
 };
 
 Record &record()
@@ -40,7 +43,21 @@ QString pathOf(int descriptor)
 bool isFailing(const QString &path)
 {
     const QMutexLocker locker(&record().mutex);
-    return record().isListening && record().failingPath == path;
+    return record().isListening && record().failingPath == path && record().awaitedRename.isEmpty();
+}
+
+bool linksFail()
+{
+    const QMutexLocker locker(&record().mutex);
+    return record().isListening && record().linksFail;
+}
+
+void noteRenameTo(const QString &path)
+{
+    const QMutexLocker locker(&record().mutex);
+    if (record().awaitedRename == path) {
+        record().awaitedRename.clear();
+    }
 }
 
 template<typename Function>
@@ -82,7 +99,18 @@ int unlink(const char *path) noexcept
 int rename(const char *from, const char *to) noexcept
 {
     note("rename", QFile::decodeName(from));
+    noteRenameTo(QFile::decodeName(to));
     return next<int(const char *, const char *)>("rename")(from, to);
+}
+
+int link(const char *from, const char *to) noexcept
+{
+    note("link", QFile::decodeName(to));
+    if (linksFail()) {
+        errno = EPERM;
+        return -1;
+    }
+    return next<int(const char *, const char *)>("link")(from, to);
 }
 }
 
@@ -92,6 +120,8 @@ DiskLog::DiskLog()
     record().isListening = true;
     record().calls.clear();
     record().failingPath.clear();
+    record().awaitedRename.clear();
+    record().linksFail = false;
 }
 
 DiskLog::~DiskLog()
@@ -119,8 +149,15 @@ bool DiskLog::hasInOrder(const QStringList &wanted) const
     return true;
 }
 
-void DiskLog::failSyncOf(const QString &path)
+void DiskLog::failSyncOf(const QString &path, const QString &afterRenameTo)
 {
     const QMutexLocker locker(&record().mutex);
     record().failingPath = path;
+    record().awaitedRename = afterRenameTo;
+}
+
+void DiskLog::failLinks()
+{
+    const QMutexLocker locker(&record().mutex);
+    record().linksFail = true;
 }

@@ -14,11 +14,15 @@ public:
     ~DiskLog();
     Q_DISABLE_COPY_MOVE(DiskLog)
 
-    /// One entry a call, in order: "sync PATH", "remove PATH", "rename PATH".
+    /// One entry a call, in order: "sync PATH", "remove PATH", "rename PATH", and "link PATH" for a
+    /// second name that was asked for.
     [[nodiscard]] QStringList calls() const;
     /// Whether all of these came one after the other, whatever came in between.
     [[nodiscard]] bool hasInOrder(const QStringList &wanted) const;
 
-    /// From now on syncing the path fails, as on a disk that breaks.
-    static void failSyncOf(const QString &path);
+    /// From now on syncing the path fails, as on a disk that breaks; where a file is named, as soon
+    /// as another one has been renamed to it.
+    static void failSyncOf(const QString &path, const QString &afterRenameTo = {});
+    /// From now on no file can have a second name, as on a memory stick.
+    static void failLinks();
 };
