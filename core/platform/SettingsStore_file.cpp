@@ -9,6 +9,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QVariant>
+
+#include <optional>
 
 #include <unistd.h>
 
@@ -19,16 +22,36 @@ QString storePath()
     return file.isSymLink() ? file.canonicalFilePath() : file.absoluteFilePath();
 }
 
-bool holds(const QSettings &settings, const SettingsStore::Changes &changes)
+QString textOf(const QVariant &value)
 {
-    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
-        const bool isWanted = !change.value().isNull();
-        if (settings.contains(change.key()) != isWanted ||
-            settings.value(change.key()).toString() != change.value()) {
-            return false;
+    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QLatin1Char('\n'))
+                                                    : value.toString();
+}
+
+/// All of it, by key; absent where it cannot be read.
+std::optional<SettingsStore::Changes> contentOf(const QString &path)
+{
+    const QSettings settings(path, QSettings::NativeFormat);
+    SettingsStore::Changes content;
+    for (const QString &key : settings.allKeys()) {
+        content.insert(key, textOf(settings.value(key)));
+    }
+    return settings.status() == QSettings::NoError ? std::optional(content) : std::nullopt;
+}
+
+/// What the store has to hold in the end: what nobody changes too, since a disk that fails can take
+/// everything from under QSettings without its noticing.
+std::optional<SettingsStore::Changes> changed(std::optional<SettingsStore::Changes> content,
+                                              const SettingsStore::Changes &changes)
+{
+    for (auto change = changes.cbegin(); content && change != changes.cend(); ++change) {
+        if (change.value().isNull()) {
+            content->remove(change.key());
+        } else {
+            content->insert(change.key(), change.value());
         }
     }
-    return settings.status() == QSettings::NoError;
+    return content;
 }
 
 bool write(const QString &draft, const SettingsStore::Changes &changes)
@@ -59,10 +82,12 @@ bool makeNewerThan(const QString &draft, const QString &store)
 /// The store as it shall be, checked and on the disk.
 bool prepare(const QString &draft, const QString &store, const SettingsStore::Changes &changes)
 {
+    // Read first: what cannot be read here is not copied either.
+    const std::optional<SettingsStore::Changes> wanted = changed(contentOf(store), changes);
     const bool isBegun =
         QFile::exists(store) ? Durable::copy(store, draft) : FileSystem::createPrivateFile(draft);
-    return isBegun && write(draft, changes) && makeNewerThan(draft, store) &&
-           holds(QSettings(draft, QSettings::NativeFormat), changes) && FileSystem::syncFile(draft);
+    return wanted && isBegun && write(draft, changes) && makeNewerThan(draft, store) &&
+           contentOf(draft) == wanted && FileSystem::syncFile(draft);
 }
 
 /// A second name for the same content: going back to it takes no room, and no reading.

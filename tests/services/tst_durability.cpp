@@ -38,6 +38,7 @@ private slots:
     void aBackupThatCannotBeSyncedFails();
     void aNewDatabaseIsSyncedBeforeItsPathIsSaved();
     void aNewDatabaseThatCannotBeSyncedFails();
+    void settingsThatCannotBeWrittenAreNotTakenForEmptyOnes();
     void settingsThatCannotBeSyncedAreTheOldFileAgain();
     void withoutSecondNamesTheOldSettingsComeBackFromACopy();
     void theFirstSettingsThatCannotBeSyncedAreTakenAway();
@@ -269,6 +270,22 @@ void tst_Durability::aNewDatabaseThatCannotBeSyncedFails()
     QCOMPARE(m_setup.initializeApp(inFolder("Zelvan.db")), SetupService::InitializationFailed);
 
     QVERIFY(!m_app.hasDatabasePath());
+}
+
+/// QSettings does not notice that its writes fail, and has an empty file take the place of the
+/// draft: one in which the key that was to go is indeed not to be found.
+void tst_Durability::settingsThatCannotBeWrittenAreNotTakenForEmptyOnes()
+{
+    QVERIFY(SettingsStore::store({{"a/key", "stays"}, {"b/key", "goes"}}));
+    const QStringList before = settingsFiles();
+    const DiskLog disk;
+    DiskLog::failWritesAfterSyncOf(".lock");
+
+    QVERIFY(!SettingsStore::store({{"b/key", QString()}}));
+
+    QCOMPARE(settingsFiles(), before);
+    QCOMPARE(QSettings().value("a/key").toString(), QStringLiteral("stays"));
+    QCOMPARE(QSettings().value("b/key").toString(), QStringLiteral("goes"));
 }
 
 void tst_Durability::settingsThatCannotBeSyncedAreTheOldFileAgain()

@@ -19,6 +19,8 @@ struct Record
     /// Nothing fails before a rename to it, where it is not empty.
     QString awaitedRename;
     bool linksFail = false;
+    QString awaitedSync;
+    QString folderOfFailingWrites;
 };
 
 Record &record()
@@ -52,6 +54,21 @@ bool linksFail()
     return record().isListening && record().linksFail;
 }
 
+bool writesFailTo(const QString &path)
+{
+    const QMutexLocker locker(&record().mutex);
+    return record().isListening && !record().folderOfFailingWrites.isEmpty() &&
+           path.startsWith(record().folderOfFailingWrites);
+}
+
+void noteSyncOf(const QString &path)
+{
+    const QMutexLocker locker(&record().mutex);
+    if (!record().awaitedSync.isEmpty() && path.endsWith(record().awaitedSync)) {
+        record().folderOfFailingWrites = path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
+    }
+}
+
 void noteRenameTo(const QString &path)
 {
     const QMutexLocker locker(&record().mutex);
@@ -75,6 +92,7 @@ int syncThrough(const char *name, int descriptor)
     }
     const int result = next<int(int)>(name)(descriptor);
     note("sync", path);
+    noteSyncOf(path);
     return result;
 }
 } // namespace
@@ -88,6 +106,15 @@ int fsync(int descriptor)
 int fdatasync(int descriptor)
 {
     return syncThrough("fdatasync", descriptor);
+}
+
+ssize_t write(int descriptor, const void *bytes, size_t size)
+{
+    if (writesFailTo(pathOf(descriptor))) {
+        errno = EIO;
+        return -1;
+    }
+    return next<ssize_t(int, const void *, size_t)>("write")(descriptor, bytes, size);
 }
 
 int unlink(const char *path) noexcept
@@ -122,6 +149,8 @@ DiskLog::DiskLog()
     record().failingPath.clear();
     record().awaitedRename.clear();
     record().linksFail = false;
+    record().awaitedSync.clear();
+    record().folderOfFailingWrites.clear();
 }
 
 DiskLog::~DiskLog()
@@ -160,4 +189,10 @@ void DiskLog::failLinks()
 {
     const QMutexLocker locker(&record().mutex);
     record().linksFail = true;
+}
+
+void DiskLog::failWritesAfterSyncOf(const QString &endOfPath)
+{
+    const QMutexLocker locker(&record().mutex);
+    record().awaitedSync = endOfPath;
 }

@@ -23,6 +23,8 @@ public:
     /// From now on syncing the path fails, as on a disk that breaks; where a file is named, as soon
     /// as another one has been renamed to it.
     static void failSyncOf(const QString &path, const QString &afterRenameTo = {});
+    /// Once a file whose path ends so has been synced, every write in its folder fails.
+    static void failWritesAfterSyncOf(const QString &endOfPath);
     /// From now on no file can have a second name, as on a memory stick.
     static void failLinks();
 };
