@@ -3,6 +3,7 @@
 import QtQuick
 import QtQuick.Controls
 import Zelvan.Services 1.0
+import zelvan
 import zelvan.Theme 1.0
 
 // The one window. Every screen lives on `stackView` and reaches it and `appWindow` by id.
@@ -62,6 +63,8 @@ Window {
             focus: true
         }
     }
+
+    FocusInSight {}
 
     Component.onCompleted: showFirstScreen()
 }
