@@ -20,6 +20,8 @@ Item {
     // Read anew at each opening, so that a picker kept over midnight knows its day.
     property date now: new Date()
 
+    signal opened(int reason)
+
     function sameDay(a: var, b: var): bool {
         return Days.number(a) === Days.number(b)
     }
@@ -57,9 +59,17 @@ Item {
         root.pick(new Date())
     }
 
-    function open() {
+    // The keys go to the grid, which shows where they are unless a pointer has opened it.
+    function open(reason: int) {
         root.now = new Date()
         popup.open()
+        root.opened(reason)
+    }
+
+    component CalendarButton: FilledButton {
+        borderColor: Theme.secondaryText
+        fillColor: Theme.surface
+        textColor: Theme.text
     }
 
     implicitWidth: 300
@@ -81,14 +91,15 @@ Item {
             Accessible.name: root.label
             // Taken at a press, the focus would be kept from the calendar.
             activeFocusOnPress: false
-            onReleased: root.open()
-            Keys.onReturnPressed: root.open()
-            Keys.onSpacePressed: root.open()
+            onReleased: root.open(Qt.MouseFocusReason)
+            Keys.onEnterPressed: root.open(Qt.TabFocusReason)
+            Keys.onReturnPressed: root.open(Qt.TabFocusReason)
+            Keys.onSpacePressed: root.open(Qt.TabFocusReason)
 
             TextFieldMenu {}
         }
 
-        Button {
+        CalendarButton {
             id: opener
 
             width: 50
@@ -97,7 +108,7 @@ Item {
             font.pixelSize: 18
 
             Accessible.name: root.label + " 📅"
-            onClicked: root.open()
+            onClicked: root.open(visualFocus ? Qt.TabFocusReason : Qt.MouseFocusReason)
         }
     }
 
@@ -130,9 +141,8 @@ Item {
                 width: parent.width
                 height: 40
 
-                Button {
+                CalendarButton {
                     width: 40
-                    height: 40
                     text: "<"
                     onClicked: root.moveMonth(-1)
                 }
@@ -144,10 +154,9 @@ Item {
                     font.pixelSize: 18
                 }
 
-                Button {
+                CalendarButton {
                     anchors.right: parent.right
                     width: 40
-                    height: 40
                     text: ">"
                     onClicked: root.moveMonth(1)
                 }
@@ -171,38 +180,20 @@ Item {
                 }
             }
 
-            Grid {
-                columns: 7
-                spacing: 4
-
-                Repeater {
-                    model: 42
-
-                    DateCell {
-                        required property int index
-
-                        day: root.cellDate(index)
-                        inMonth: root.inCurrentMonth(day)
-                        pickable: inMonth && !root.isPast(day) && root.isAllowed(day)
-                        today: root.sameDay(day, root.now)
-                        selected: root.sameDay(day, root.selectedDate)
-                        onPicked: root.pick(day)
-                    }
-                }
+            CalendarGrid {
+                picker: root
             }
 
             Row {
                 anchors.right: parent.right
                 spacing: 8
 
-                Button {
-                    height: 36
+                CalendarButton {
                     text: "Today"
                     onClicked: root.pickToday()
                 }
 
-                Button {
-                    height: 36
+                CalendarButton {
                     text: "Cancel"
                     onClicked: popup.close()
                 }

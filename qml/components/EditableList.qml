@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 import QtQuick
 import zelvan
+import "MenuKey.js" as MenuKey
 
 // A list whose rows are edited in place. Every change fills its model anew, which would lead back to
 // the top and end the editing of every row: the list returns to where it was, and each row is told
@@ -26,6 +27,8 @@ KeyList {
     Keys.onPressed: event => {
         if (event.key === Qt.Key_F2)
             root.actOnRow(event, "startEditing")
+        else if (MenuKey.isMeant(event) && root.currentItem?.openMenu) // qmllint disable type
+            root.actOnRow(event, "openMenu")
     }
 
     Connections {

@@ -3,13 +3,14 @@
 import QtQuick
 import QtQuick.Controls
 import zelvan
+import "MenuKey.js" as MenuKey
 
 // What a right click or the menu key offers in a field to type in: the same on every Qt, whose own menu is
 // not there on older ones and speaks but its own language on newer ones. A child of the field.
 MouseArea {
     id: root
 
-    // A TextField or a TextArea, which have no type in common that could cut and paste.
+    // A TextField, a TextArea or a TextInput, which have no type in common that could cut and paste.
     property var editor: parent
 
     readonly property bool isSecret: editor.echoMode !== undefined && editor.echoMode !== TextInput.Normal
@@ -38,26 +39,26 @@ MouseArea {
         id: menuOfField
 
         ThemedMenu {
-            MenuItem {
+            ThemedMenuItem {
                 enabled: root.hasSelection && !root.editor.readOnly
                 height: visible ? implicitHeight : 0
                 text: qsTr("Cut")
                 visible: !root.isSecret
                 onTriggered: root.perform(root.editor.cut)
             }
-            MenuItem {
+            ThemedMenuItem {
                 enabled: root.hasSelection
                 height: visible ? implicitHeight : 0
                 text: qsTr("Copy")
                 visible: !root.isSecret
                 onTriggered: root.perform(root.editor.copy)
             }
-            MenuItem {
+            ThemedMenuItem {
                 enabled: root.editor.canPaste && !root.editor.readOnly
                 text: qsTr("Paste")
                 onTriggered: root.perform(root.editor.paste)
             }
-            MenuItem {
+            ThemedMenuItem {
                 enabled: root.editor.length > 0
                 text: qsTr("Select All")
                 onTriggered: root.perform(root.editor.selectAll)
@@ -75,7 +76,9 @@ MouseArea {
     Connections {
         target: root.editor.Keys
 
-        function onMenuPressed(event: var): void {
+        function onPressed(event: var): void {
+            if (!MenuKey.isMeant(event))
+                return
             const place = root.editor.cursorRectangle
             root.open(place.x, place.y + place.height)
             event.accepted = true

@@ -68,7 +68,7 @@ ComboBox {
             implicitHeight: contentHeight
             model: control.delegateModel
 
-            ScrollBar.vertical: ScrollBar {}
+            ScrollBar.vertical: RestingScrollBar {}
         }
     }
 }

@@ -92,6 +92,8 @@ SpinBox {
         text: control.displayText
         validator: control.validator
         verticalAlignment: Qt.AlignVCenter
+
+        TextFieldMenu {}
     }
     down.indicator: Step {
         pressed: control.down.pressed

@@ -6,37 +6,10 @@ import Zelvan.Services 1.0
 import zelvan.Theme 1.0
 import ZelvanTest 1.0
 
-ZelvanTestCase {
+FloorTestCase {
     id: root
 
-    property int floorId
-
     name: "FloorCanvas"
-
-    function arrange() {
-        floorId = FloorPlanService.createFloor("Hall")
-        FloorPlanService.loadCanvas(floorId)
-    }
-
-    function addTable(label: string, x: real, y: real, more: var) {
-        FloorPlanService.createTableItem(Object.assign({ floor_id: floorId, label: label, capacity: 4, x: x, y: y, width: 80, height: 80, metadata: JSON.stringify({ table_type: "square" }) }, more || {}))
-    }
-
-    function addWall(x: real, y: real) {
-        FloorPlanService.addItem({ type: "wall", x: x, y: y, width: 150, height: 10, label: "" })
-    }
-
-    function canvas() {
-        return show("components/FloorCanvas", { model: FloorPlanService.canvasModel })
-    }
-
-    function plan() {
-        return show("common/floor/FloorPlanView", { model: FloorPlanService.canvasModel })
-    }
-
-    function floorItems(): var {
-        return allShown(item => item.reservationText !== undefined)
-    }
 
     function test_an_item_takes_all_from_its_row() {
         addTable("T1", 100, 200, { rotation: 15, opacity: 0.5, z_order: 3, capacity: 6 })
@@ -137,107 +110,6 @@ ZelvanTestCase {
         compare(FloorPlanService.canvasModel.get(0).x, 0)
     }
 
-    function test_the_handles_are_reached_over_the_dragging_area() {
-        addWall(100, 100)
-        canvas()
-        const handle = findChild(floorItems()[0], "resizeHandle")
-
-        mousePress(handle, 8, 8)
-        mouseMove(handle, 58, 8)
-        mouseRelease(handle, 8, 8)
-
-        compare(FloorPlanService.canvasModel.get(0).width, 200)
-    }
-
-    // Places on the handles, measured from the middle of the edge that they sit on.
-    function handlePlaces(): var {
-        return [
-            { tag: "the end handle's outer half", x: 156, y: 5, lengthens: true },
-            { tag: "its inner half", x: 144, y: 5, lengthens: true },
-            { tag: "its upper edge", x: 151, y: -2, lengthens: true },
-            { tag: "its lower edge", x: 151, y: 12, lengthens: true },
-            { tag: "the turning handle", x: 75, y: -16, lengthens: false },
-            { tag: "its far edge", x: 75, y: -23, lengthens: false }
-        ]
-    }
-
-    function verifyHandle(wall, data: var) {
-        const start = wall.mapToItem(root, data.x, data.y)
-        const along = wall.mapToItem(root, data.x + 40, data.y)
-
-        pull(start.x, start.y, along.x - start.x, along.y - start.y)
-
-        compare(wall.width > 160, data.lengthens, wall.width)
-        compare(wall.rotation !== wall.startRotation, !data.lengthens)
-    }
-
-    function startedWall(index: int): var {
-        const wall = floorItems()[index]
-        return { get width() { return wall.width }, get rotation() { return wall.rotation }, startRotation: wall.rotation, mapToItem: (other, x, y) => wall.mapToItem(other, x, y) }
-    }
-
-    function test_every_handle_of_a_loaded_wall_works_data() {
-        return handlePlaces()
-    }
-
-    function test_every_handle_of_a_loaded_wall_works(data) {
-        addWall(300, 300)
-        addTable("T1", 600, 300)
-        addWall(300, 500)
-        FloorPlanService.saveCanvas(floorId)
-        FloorPlanService.loadCanvas(floorId)
-        canvas()
-
-        verifyHandle(startedWall(0), data)
-        verifyHandle(startedWall(2), data)
-    }
-
-    function test_every_handle_of_a_fresh_wall_works_data() {
-        return handlePlaces()
-    }
-
-    function test_every_handle_of_a_fresh_wall_works(data) {
-        canvas()
-        addTable("T1", 600, 300)
-        addWall(300, 300)
-
-        verifyHandle(startedWall(1), data)
-    }
-
-    function test_every_handle_of_a_turned_wall_works_data() {
-        return handlePlaces()
-    }
-
-    function test_every_handle_of_a_turned_wall_works(data) {
-        FloorPlanService.addItem({ type: "wall", x: 300, y: 300, width: 150, height: 10, label: "", rotation: 60 })
-        canvas()
-
-        verifyHandle(startedWall(0), data)
-    }
-
-    function test_a_handle_under_a_table_leaves_the_press_to_the_table() {
-        addWall(300, 300)
-        addTable("T1", 440, 280)
-        canvas()
-        const wall = startedWall(0)
-
-        pull(454, 305, 0, 100)
-        compare([wall.width, wall.rotation], [150, 0])
-        verify(item("T1").y > 300)
-
-        verifyHandle(wall, { x: 156, y: 5, lengthens: true })
-    }
-
-    function test_a_divider_is_turned_and_a_table_has_no_handle() {
-        FloorPlanService.addItem({ type: "divider", x: 300, y: 300, width: 150, height: 10, label: "" })
-        addTable("T1", 600, 300)
-        canvas()
-
-        verifyHandle(startedWall(0), { x: 75, y: -16, lengthens: false })
-        pull(640, 284, 50, 0)
-        compare([item("T1").rotation, item("T1").x], [0, 600])
-    }
-
     function test_a_right_click_selects_and_offers_to_delete() {
         addTable("T1", 100, 200)
         addTable("T2", 300, 200)
@@ -263,36 +135,6 @@ ZelvanTestCase {
         click(floorItems()[0])
 
         compare(page.selectedIndex, -1)
-    }
-
-    // Presses, moves in small steps and releases, all in the window's coordinates.
-    function pull(x: real, y: real, dx: int, dy: int) {
-        mousePress(root, x, y)
-        for (let step = 1; step <= 10; ++step)
-            mouseMove(root, x + dx * step / 10, y + dy * step / 10)
-        mouseRelease(root, x + dx, y + dy)
-    }
-
-    function item(label: string): var {
-        return floorItems().find(found => found.label === label)
-    }
-
-    function rowLabels(): var {
-        const labels = []
-        for (let i = 0; i < FloorPlanService.canvasModel.rowCount(); ++i)
-            labels.push(FloorPlanService.canvasModel.get(i).label)
-        return labels
-    }
-
-    function storedTables(): var {
-        return TestDb.rows("SELECT table_name FROM tables ORDER BY id").map(row => row.table_name)
-    }
-
-    function deleteAt(x: real, y: real) {
-        mouseClick(root, x, y, Qt.RightButton)
-        tryVerify(() => hasButton("Delete"))
-        press("Delete")
-        tryVerify(() => !hasButton("Delete"))
     }
 
     function test_of_tables_on_one_spot_the_one_on_top_is_deleted() {
@@ -407,62 +249,5 @@ ZelvanTestCase {
             const reserved = theShown(shown => shown.text === "Reserved 07:00 PM", "the booking")
             verify(corner.y + label.contentHeight <= reserved.y)
         }
-    }
-
-    SignalSpy {
-        id: selectedSpy
-
-        signalName: "tableSelected"
-    }
-
-    function test_a_click_on_the_plan_tells_the_table_or_none() {
-        addTable("T1", 100, 200)
-        addWall(100, 500)
-        plan()
-        selectedSpy.target = page
-        selectedSpy.clear()
-
-        click(floorItems()[0])
-        compare(selectedSpy.signalArguments[0][0], 1)
-        mouseClick(page, 600, 600)
-        compare(selectedSpy.signalArguments[1][0], -1)
-        click(floorItems()[1])
-
-        compare(selectedSpy.count, 2)
-    }
-
-    function test_a_click_beside_a_round_table_means_what_is_seen_there() {
-        addTable("lower", 100, 100)
-        addTable("round", 150, 100, { metadata: JSON.stringify({ table_type: "circle" }) })
-        plan()
-        selectedSpy.target = page
-        selectedSpy.clear()
-
-        mouseClick(page, 154, 104)
-        mouseClick(page, 190, 140)
-        mouseClick(page, 227, 103)
-        mouseClick(page, 90, 140)
-
-        compare(selectedSpy.signalArguments.map(list => list[0]), [1, 2, 2, -1])
-    }
-
-    function test_the_selected_table_is_framed() {
-        addTable("T1", 100, 200)
-        plan()
-
-        page.selectedTableId = 1
-
-        compare(floorItems()[0].borderColor, "#9a7bff")
-    }
-
-    function test_the_plan_cannot_be_edited() {
-        addTable("T1", 100, 200)
-        addWall(100, 500)
-        plan()
-
-        drag(floorItems()[0], 60, 30)
-
-        compare(floorItems()[0].x, 100)
-        verify(!findChild(floorItems()[1], "resizeHandle").visible)
     }
 }

@@ -167,6 +167,29 @@ ZelvanTestCase {
         compare(allShown(item => item.cursorPosition !== undefined && item.Accessible.name === "Rename").length, 0)
     }
 
+    function test_the_menu_of_a_category_is_opened_by_keys_data() {
+        return [
+            { tag: "menu key", key: Qt.Key_Menu, modifiers: Qt.NoModifier },
+            { tag: "Shift+F10", key: Qt.Key_F10, modifiers: Qt.ShiftModifier }
+        ]
+    }
+
+    function test_the_menu_of_a_category_is_opened_by_keys(data) {
+        addCategory("Drinks")
+        openFood()
+        const list = row("Food").ListView.view
+        list.forceActiveFocus(Qt.TabFocusReason)
+        keyClick(Qt.Key_Down)
+
+        keyClick(data.key, data.modifiers)
+        tryVerify(() => hasButton("Rename"))
+        keyClick(Qt.Key_Down)
+        keyClick(Qt.Key_Return)
+
+        tryVerify(() => field("Rename").activeFocus)
+        compare(field("Rename").text, "Drinks")
+    }
+
     function test_the_menu_of_a_row_stays_with_it_while_another_is_renamed() {
         addCategory("Drinks")
         show("admin/management/AdminMenuManagement")

@@ -19,6 +19,7 @@ ZelvanTestCase {
             ThemedField { echoMode: TextInput.Password; label: "Secret"; width: 300 }
             ThemedField { label: "Shown"; readOnly: true; text: "fixed"; width: 300 }
             NotesArea { height: 100; label: "Notes"; width: 300 }
+            ThemedSpinBox { label: "Seats"; value: 6; width: 300 }
         }
     }
 
@@ -63,7 +64,7 @@ ZelvanTestCase {
     function test_a_right_click_offers_what_can_be_done_with_text_data() {
         return [
             { tag: "a field", label: "Name" },
-            { tag: "notes", label: "Notes" },
+            { tag: "notes", label: "Notes" }
         ]
     }
 
@@ -128,12 +129,19 @@ ZelvanTestCase {
         verify(name.activeFocus)
     }
 
-    function test_the_menu_key_opens_it_for_the_keyboard() {
+    function test_the_menu_key_opens_it_for_the_keyboard_data() {
+        return [
+            { tag: "menu key", key: Qt.Key_Menu, modifiers: Qt.NoModifier },
+            { tag: "Shift+F10", key: Qt.Key_F10, modifiers: Qt.ShiftModifier }
+        ]
+    }
+
+    function test_the_menu_key_opens_it_for_the_keyboard(row) {
         const name = field("Name")
         name.text = "two noodles"
         name.forceActiveFocus()
 
-        keyClick(Qt.Key_Menu)
+        keyClick(row.key, row.modifiers)
         tryVerify(() => offered().length === 4)
         tryVerify(() => {
             keyClick(Qt.Key_Down)
@@ -144,6 +152,45 @@ ZelvanTestCase {
 
         compare(name.selectedText, "two noodles")
         tryVerify(() => name.activeFocus)
+    }
+
+    function test_f10_alone_opens_nothing() {
+        field("Name").forceActiveFocus()
+
+        keyClick(Qt.Key_F10)
+
+        compare(offered().length, 0)
+    }
+
+    function seats(): var {
+        return theShown(item => item.cursorPosition !== undefined && item.text === "6", "the number")
+    }
+
+    function test_a_number_to_step_through_has_it_too() {
+        const source = seats()
+        source.selectAll()
+
+        compare(opened(source), ["Cut", "Copy", "Paste", "Select All"])
+        choose("Copy")
+        opened(field("Name"))
+        choose("Paste")
+
+        compare(field("Name").text, "6")
+    }
+
+    function test_the_menu_key_opens_it_in_a_number() {
+        seats().forceActiveFocus()
+
+        keyClick(Qt.Key_F10, Qt.ShiftModifier)
+
+        tryVerify(() => offered().length === 4)
+    }
+
+    function test_its_entries_have_the_program_s_look() {
+        opened(field("Name"))
+
+        for (const item of offered())
+            verify(item.height >= 40, item.text)
     }
 
     function test_every_menu_is_gone_after_use() {

@@ -116,7 +116,8 @@ TouchTestCase {
 
         const took = hold(place.x, place.y, () => entries().length > 0)
 
-        verify(took >= 790, took)
+        // Timers may be a twentieth early.
+        verify(took >= 760, took)
         compare(entries(), ["Delete"])
         compare(canvas.selectedIndex, data.index)
         tapButton("Delete")
@@ -190,7 +191,8 @@ TouchTestCase {
 
         const took = hold(place.x, place.y, () => entries().length > 0)
 
-        verify(took >= 790, took)
+        // Timers may be a twentieth early.
+        verify(took >= 760, took)
         compare(entries(), ["Delete Floor"])
         compare(page.currentFloorId, hall)
         tapButton("Delete Floor")

@@ -179,7 +179,8 @@ TouchTestCase {
 
         const took = hold(place.x, place.y, () => entries().length > 0)
 
-        verify(took >= 790, took)
+        // Timers may be a twentieth early.
+        verify(took >= 760, took)
         compare(entries(), ["Rename", "Delete"])
         compare(MenuService.currentCategoryId, food)
         tapButton("Rename")

@@ -6,6 +6,7 @@ import QtQuick.Layouts
 import zelvan
 import zelvan.Theme 1.0
 import Zelvan.Services 1.0
+import "../../components/MenuKey.js" as MenuKey
 
 // The editor of floors. Floors and the tables behind the items change at once; places, shapes and
 // dividers wait for the platform's save key, and there is no other way of saving.
@@ -79,6 +80,11 @@ Item {
         checked: model.id === root.currentFloorId
         text: model.name
         enabled: !hold.lettingGo
+        Keys.onPressed: event => {
+            event.accepted = MenuKey.isMeant(event)
+            if (event.accepted)
+                openMenu(0, height)
+        }
         onClicked: root.showFloor(model.id)
 
         MouseArea {

@@ -68,6 +68,10 @@ Rectangle {
         root.deleteRequested(root.categoryId, root.name)
     }
 
+    function openMenu(): void {
+        root.menuRequested(0, root.height)
+    }
+
     height: Math.max(44, label.implicitHeight + 8)
     Accessible.name: root.name
     Accessible.role: Accessible.ListItem

@@ -3,9 +3,11 @@
 import QtQuick
 import zelvan
 import zelvan.Theme 1.0
+import "../../components/FloorNeighbours.js" as FloorNeighbours
 import "../../components/FloorRows.js" as FloorRows
 
-// The floor for taking orders: a click chooses a table, one on the empty floor none.
+// The floor for taking orders: a click chooses a table, one on the empty floor none. Tab and the arrows lead
+// from table to table.
 Rectangle {
     id: root
 
@@ -13,6 +15,10 @@ Rectangle {
     property int selectedTableId: -1
 
     signal tableSelected(int tableId)
+
+    function goOn(item: Item, dx: int, dy: int): void {
+        FloorNeighbours.towards(item, dx, dy)?.forceActiveFocus(Qt.TabFocusReason)
+    }
 
     color: Theme.background
 
@@ -53,9 +59,13 @@ Rectangle {
             Accessible.ignored: !isTable
             Accessible.onPressAction: root.tableSelected(model.table_id)
 
+            Keys.onDownPressed: root.goOn(item, 0, 1)
             Keys.onEnterPressed: root.tableSelected(model.table_id)
+            Keys.onLeftPressed: root.goOn(item, -1, 0)
             Keys.onReturnPressed: root.tableSelected(model.table_id)
+            Keys.onRightPressed: root.goOn(item, 1, 0)
             Keys.onSpacePressed: root.tableSelected(model.table_id)
+            Keys.onUpPressed: root.goOn(item, 0, -1)
 
             FocusRing {
                 anchors.fill: parent
