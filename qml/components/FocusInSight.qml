@@ -76,8 +76,7 @@ Item {
         return root.keyboard.y - (isOnScreen ? root.Window.window.y : 0) // qmllint disable type
     }
 
-    anchors.fill: parent
-    // Over the layer of dialogs and menus, to hear of every press.
+    // Over the layer of dialogs and menus, to hear of every press first, but in nobody's way.
     z: 1000002
 
     onFocusedChanged: if (!pressed || keyboard.height > 0) followSoon()
@@ -96,5 +95,8 @@ Item {
 
     PointHandler {
         id: press
+
+        // This item has no size: the whole window is its margin.
+        margin: 100000
     }
 }

@@ -160,6 +160,29 @@ TouchTestCase {
             tryCompare(content, "y", 0)
     }
 
+    function test_a_dialog_s_button_stays_under_the_finger() {
+        startWatching()
+        dialog = create("common/floor/ReservationDialog")
+        dialog.openCreate(1)
+        tryVerify(() => dialog.opened)
+        field("Notes").forceActiveFocus()
+        showKeyboard()
+        tryVerify(() => content.y < 0)
+        const risen = content.y
+        const place = centre(button("Cancel"))
+
+        const finger = putDown(place.x, place.y)
+        verify(sight.pressed)
+        hideKeyboard()
+        settle()
+        settle()
+        compare(content.y, risen)
+        finger.release(0, root, place.x, place.y).commit()
+
+        tryVerify(() => !dialog.visible)
+        tryCompare(content, "y", 0)
+    }
+
     function test_a_list_flicks_on_the_risen_page() {
         const food = addCategory("Food")
         for (let i = 0; i < 40; ++i)
