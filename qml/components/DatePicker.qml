@@ -85,6 +85,10 @@ Item {
             width: parent.width - opener.width - parent.spacing
             height: parent.height
             readOnly: true
+            background: FieldSurface {
+                focused: field.activeFocus
+            }
+            color: Theme.text
             font.pointSize: 14
             text: Qt.formatDate(root.selectedDate, "dd MMM yyyy")
 

@@ -21,11 +21,8 @@ ScrollView {
         anchors.top: parent.top
     }
 
-    background: Rectangle {
-        radius: 4
-        color: Theme.background
-        border.width: 1
-        border.color: area.activeFocus ? Theme.primary() : Theme.border
+    background: FieldSurface {
+        focused: area.activeFocus
     }
 
     TextArea {

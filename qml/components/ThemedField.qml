@@ -46,11 +46,9 @@ TextField {
 
     onTextChanged: keepOneLine()
 
-    background: Rectangle {
-        border.color: control.activeFocus ? Theme.primary() : Theme.border
-        border.width: control.activeFocus ? 2 : 1
+    background: FieldSurface {
         color: control.fillColor
-        radius: 4
+        focused: control.activeFocus
     }
 
     TextFieldMenu {
