@@ -47,7 +47,7 @@ Window {
         buttonText: Theme.text
         placeholderText: Theme.secondaryText
         highlight: Theme.primary()
-        highlightedText: "white"
+        highlightedText: "black"
         toolTipBase: Theme.surface
         toolTipText: Theme.text
     }

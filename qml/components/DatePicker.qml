@@ -90,6 +90,7 @@ Item {
             }
             color: Theme.text
             font.pointSize: 14
+            leftPadding: 10
             text: Qt.formatDate(root.selectedDate, "dd MMM yyyy")
 
             Accessible.name: root.label

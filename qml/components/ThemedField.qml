@@ -41,7 +41,8 @@ TextField {
     padding: 10
     placeholderTextColor: Theme.secondaryText
     selectByMouse: true
-    selectedTextColor: "white"
+    // White on the highlight is too faint to read.
+    selectedTextColor: "black"
     selectionColor: Theme.primary()
 
     onTextChanged: keepOneLine()

@@ -69,6 +69,18 @@ ContrastTestCase {
         verifyTextOf(notes, "what stands in them")
     }
 
+    function test_what_is_selected_to_be_typed_over_data() {
+        return [{ tag: "Customer Phone" }, { tag: "Reservation Date" }, { tag: "Notes" }]
+    }
+
+    function test_what_is_selected_to_be_typed_over(data) {
+        openBooking()
+
+        const input = named(data.tag, "selectedTextColor")
+
+        verify(contrast(input.selectedTextColor, input.selectionColor) >= textContrast)
+    }
+
     function test_a_calendar() {
         openBooking()
         pressOn("📅")
