@@ -2119,7 +2119,7 @@
     </message>
 </context>
 <context>
-    <name>TextFieldMenu</name>
+    <name>FieldMenu</name>
     <message>
         <source>Cut</source>
         <translation>剪切</translation>

@@ -22,8 +22,15 @@ MouseArea {
     function open(x: real, y: real): void {
         editor.forceActiveFocus(Qt.MouseFocusReason)
         isOpen = true
-        const menu = menuOfField.createObject(root) as Menu
+        // Not before somebody asks for it: every page with a field would wait for it.
+        const menu = Qt.createComponent("FieldMenu.qml").createObject(root, { field: root }) as Menu
         menu.popup(root, x, y)
+    }
+
+    function close(): void {
+        isOpen = false
+        if (!root.Window.activeFocusItem || root.Window.activeFocusItem === root.Window.contentItem)
+            editor.forceActiveFocus(Qt.PopupFocusReason)
     }
 
     // Older Qt leaves the focus nowhere, here and when it closes.
@@ -34,44 +41,6 @@ MouseArea {
 
     acceptedButtons: Qt.RightButton
     anchors.fill: parent
-
-    Component {
-        id: menuOfField
-
-        ThemedMenu {
-            ThemedMenuItem {
-                enabled: root.hasSelection && !root.editor.readOnly
-                height: visible ? implicitHeight : 0
-                text: qsTr("Cut")
-                visible: !root.isSecret
-                onTriggered: root.perform(root.editor.cut)
-            }
-            ThemedMenuItem {
-                enabled: root.hasSelection
-                height: visible ? implicitHeight : 0
-                text: qsTr("Copy")
-                visible: !root.isSecret
-                onTriggered: root.perform(root.editor.copy)
-            }
-            ThemedMenuItem {
-                enabled: root.editor.canPaste && !root.editor.readOnly
-                text: qsTr("Paste")
-                onTriggered: root.perform(root.editor.paste)
-            }
-            ThemedMenuItem {
-                enabled: root.editor.length > 0
-                text: qsTr("Select All")
-                onTriggered: root.perform(root.editor.selectAll)
-            }
-
-            onClosed: {
-                root.isOpen = false
-                if (!root.Window.activeFocusItem || root.Window.activeFocusItem === root.Window.contentItem)
-                    root.editor.forceActiveFocus(Qt.PopupFocusReason)
-                destroy()
-            }
-        }
-    }
 
     Connections {
         target: root.editor.Keys

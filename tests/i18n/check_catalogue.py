@@ -22,7 +22,7 @@ CATALOGUE = ROOT / "i18n" / "app_zh_CN.ts"
 PAPER = "QObject"  # the context of all that is printed
 GONE = "SetupDBLocation"  # a screen that is no more, whose texts are kept
 # What several screens say beyond their own texts.
-OWN = {"Hints", "TextFieldMenu"}
+OWN = {"Hints", "FieldMenu"}
 
 SHARED_PARTS = {"ConfirmationDialog", "FloorCanvas"}
 SCREENS = {
