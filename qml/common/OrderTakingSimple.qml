@@ -216,7 +216,7 @@ Item {
                             visible: root.currentOrderId >= 0 && root.kitchenSettings.ticket_print_timing === "manual"
                             text: qsTr("Print Ticket")
                             fillColor: Theme.primary()
-                            onClicked: Work.start(() => OrderService.printKitchenTicket(root.currentOrderId))
+                            onClicked: Work.start(() => OrderService.printKitchenTicket(root.currentOrderId), Work.pauseOfPaper)
                         }
                     }
 

@@ -11,14 +11,17 @@ QtObject {
 
     property bool busy: false
     readonly property Timer rest: Timer {
-        interval: 50
         onTriggered: root.busy = false
     }
 
-    function start(work: var): void {
+    // Paper takes a longer pause, in ms: a double click means one sheet.
+    readonly property int pauseOfPaper: 400
+
+    function start(work: var, pause: var): void {
         if (root.busy)
             return
         root.busy = true
+        root.rest.interval = pause ?? 50
         try {
             work()
         } finally {

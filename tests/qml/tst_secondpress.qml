@@ -289,6 +289,26 @@ ScreenTestCase {
         compare(TestDb.printedDocuments(), before + 1)
     }
 
+    // At the pace of a hand that clicks twice out of habit.
+    function test_a_double_click_prints_a_receipt_again_once_and_a_later_one_again() {
+        TestDb.addPrinter("Counter")
+        SettingService.savePrinter({ system_name: "Counter", role: "receipt", paper_width: 58, cut_mode: "none" })
+        SettingService.saveRestaurantSetting({ name: "Corner Cafe" })
+        order()
+        verify(CheckoutService.completeCheckout(TestDb.value("SELECT MAX(id) FROM order_sessions"), "", 0))
+        show("common/Checkout")
+        page.selectRecent(page.recentOrders[0])
+        const before = TestDb.printedDocuments()
+
+        mouseClick(button("Reprint Receipt"))
+        wait(150)
+        mouseClick(button("Reprint Receipt"))
+        compare(TestDb.printedDocuments(), before + 1)
+        press("Reprint Receipt")
+
+        compare(TestDb.printedDocuments(), before + 2)
+    }
+
     function test_a_deletion_is_confirmed_once() {
         const answers = []
         const dialog = create("components/ConfirmationDialog", { confirmCallback: confirmed => answers.push(confirmed) })

@@ -69,6 +69,6 @@ ColumnLayout {
     PrimaryButton {
         Layout.fillWidth: true
         text: qsTranslate("Checkout", "Reprint Receipt")
-        onClicked: Work.start(root.page.reprint)
+        onClicked: Work.start(root.page.reprint, Work.pauseOfPaper)
     }
 }
