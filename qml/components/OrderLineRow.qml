@@ -85,7 +85,7 @@ Rectangle {
             }
 
             Loader {
-                Layout.preferredHeight: 36
+                Layout.preferredHeight: 40
                 Layout.preferredWidth: 100
                 active: root.remarkPlaceholder !== "" && root.wide
                 sourceComponent: remarkField
@@ -103,7 +103,7 @@ Rectangle {
 
         Loader {
             Layout.fillWidth: true
-            Layout.preferredHeight: 36
+            Layout.preferredHeight: 40
             active: root.remarkPlaceholder !== "" && !root.wide
             sourceComponent: remarkField
             visible: active

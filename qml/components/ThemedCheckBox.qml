@@ -14,6 +14,8 @@ CheckBox {
     Accessible.checked: checked
 
     font.pixelSize: Theme.fontNormal
+    // A finger's.
+    implicitHeight: 40
 
     indicator: Rectangle {
         x: control.leftPadding

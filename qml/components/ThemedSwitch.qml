@@ -15,6 +15,8 @@ Switch {
 
     focusPolicy: Qt.TabFocus
     hoverEnabled: false
+    // A finger's.
+    implicitHeight: 40
 
     indicator: Rectangle {
         x: control.leftPadding
