@@ -2,12 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "printing/spool/WinSpooler.h"
 
+#include "printing/spool/PatientThread.h"
+
 #include <windows.h>
+
+#include <chrono>
+#include <memory>
 #include <winspool.h>
 
 namespace {
 constexpr DWORD localPrintersAndConnections = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
 constexpr DWORD printerInfoLevel = 2;
+/// Connections to computers that are gone are asked for as long as the network likes.
+constexpr std::chrono::milliseconds patience{1750};
 
 std::wstring wide(const std::u16string &text)
 {
@@ -23,6 +30,33 @@ std::u16string utf16(const wchar_t *text)
 HANDLE systemHandle(RawSpooler::Handle handle)
 {
     return reinterpret_cast<HANDLE>(handle);
+}
+
+/// What one call of EnumPrintersW answered.
+struct List
+{
+    DWORD error = ERROR_SUCCESS;
+    DWORD needed = 0;
+    std::vector<RawSpooler::PrinterInfo> printers;
+};
+
+List ask(DWORD size)
+{
+    List list;
+    // 64-bit units, so that the records at the start of the buffer are aligned.
+    std::vector<std::uint64_t> buffer((size + 7) / 8);
+    auto *bytes = reinterpret_cast<BYTE *>(buffer.data());
+    DWORD count = 0;
+    if (EnumPrintersW(localPrintersAndConnections, nullptr, printerInfoLevel,
+                      size == 0 ? nullptr : bytes, size, &list.needed, &count) == 0) {
+        list.error = GetLastError();
+        return list;
+    }
+    const auto *records = reinterpret_cast<const PRINTER_INFO_2W *>(bytes);
+    for (DWORD i = 0; i < count; ++i) {
+        list.printers.push_back({utf16(records[i].pPrinterName), utf16(records[i].pPortName)});
+    }
+    return list;
 }
 } // namespace
 
@@ -84,22 +118,18 @@ bool WinSpooler::closePrinter(Handle handle)
 bool WinSpooler::enumPrinters(std::uint32_t size, std::uint32_t &needed,
                               std::vector<PrinterInfo> &printers)
 {
-    // 64-bit units, so that the records at the start of the buffer are aligned.
-    std::vector<std::uint64_t> buffer((size + 7) / 8);
-    auto *bytes = reinterpret_cast<BYTE *>(buffer.data());
-    DWORD neededSize = 0;
-    DWORD count = 0;
-    const BOOL succeeded = EnumPrintersW(localPrintersAndConnections, nullptr, printerInfoLevel,
-                                         size == 0 ? nullptr : bytes, size, &neededSize, &count);
-    needed = neededSize;
-    if (!noted(succeeded != 0)) {
-        return false;
+    // Shared, for the call may come back after everybody has gone.
+    const auto list = std::make_shared<List>();
+    PatientThread thread;
+    if (!thread.run([list, size] { *list = ask(size); }, patience)) {
+        *list = List{ERROR_TIMEOUT, 0, {}};
     }
-    const auto *records = reinterpret_cast<const PRINTER_INFO_2W *>(bytes);
-    for (DWORD i = 0; i < count; ++i) {
-        printers.push_back({utf16(records[i].pPrinterName), utf16(records[i].pPortName)});
+    needed = list->needed;
+    printers.insert(printers.end(), list->printers.begin(), list->printers.end());
+    if (list->error != ERROR_SUCCESS) {
+        m_lastError = list->error;
     }
-    return true;
+    return list->error == ERROR_SUCCESS;
 }
 
 std::uint32_t WinSpooler::getLastError() const

@@ -4,12 +4,17 @@
 // them, and asks for a printer that does not exist. See scripts/check-winspool.
 #include "printing/spool/WinSpooler.h"
 
+#include <windows.h>
+
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <winspool.h>
 
 namespace {
+bool isNetworkDead = false;
 
 [[noreturn]] void fail(const char *step, const RawSpooler &spooler)
 {
@@ -88,11 +93,43 @@ void askForAMissingPrinter(RawSpooler &spooler)
                 static_cast<unsigned long>(spooler.getLastError()));
 }
 
+int askADeadNetwork()
+{
+    using namespace std::chrono;
+    isNetworkDead = true;
+    WinSpooler spooler;
+    std::uint32_t needed = 1;
+    std::vector<RawSpooler::PrinterInfo> printers;
+    const auto begin = steady_clock::now();
+    const bool listed = spooler.enumPrinters(0, needed, printers);
+    const auto waited = duration_cast<milliseconds>(steady_clock::now() - begin);
+    std::printf("a list that never comes: %s after %d ms\n", listed ? "there" : "none",
+                static_cast<int>(waited.count()));
+    const bool isBounded = waited < seconds(3) && spooler.getLastError() == ERROR_TIMEOUT;
+    return !listed && needed == 0 && isBounded ? 0 : 1;
+}
+
 } // namespace
 
-/// "winspool_check PRINTER FILE"
+/// In the place of the call that the library stands for: the system's own, or one that does not
+/// come back.
+BOOL WINAPI EnumPrintersW(DWORD flags, LPWSTR name, DWORD level, LPBYTE buffer, DWORD size,
+                          LPDWORD needed, LPDWORD count)
+{
+    if (isNetworkDead) {
+        Sleep(INFINITE);
+    }
+    static auto *const own = reinterpret_cast<decltype(&EnumPrintersW)>(
+        reinterpret_cast<void *>(GetProcAddress(LoadLibraryW(L"winspool.drv"), "EnumPrintersW")));
+    return own(flags, name, level, buffer, size, needed, count);
+}
+
+/// "winspool_check PRINTER FILE" or "winspool_check --dead-network"
 int main(int argc, char **argv)
 {
+    if (argc == 2 && std::string(argv[1]) == "--dead-network") {
+        return askADeadNetwork();
+    }
     if (argc != 3) {
         std::puts("winspool_check PRINTER FILE");
         return 2;
