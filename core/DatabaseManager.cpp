@@ -237,6 +237,11 @@ void DatabaseManager::closeDatabase()
     qCInfo(lcDatabase) << "Database closed";
 }
 
+void DatabaseManager::releaseFile()
+{
+    QSqlDatabase::database(mainConnectionName, false).close();
+}
+
 bool DatabaseManager::openExisting(const QString &path)
 {
     if (path.isEmpty()) {

@@ -39,6 +39,9 @@ public:
 
     /// Closes and unregisters `main_connection`; harmless when there is none.
     static void closeDatabase();
+    /// Lets go of the file for good and keeps the connection's name: whoever still has its handle
+    /// finds it closed.
+    static void releaseFile();
     /// Makes an existing file the working database, without migrations.
     static bool openExisting(const QString &path);
     /// Makes the file the working database, creating folder and file, and brings its schema up to

@@ -2,9 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "services/FolderTidying.h"
 
+#include <QFileInfo>
+
 #include <filesystem>
 
 namespace {
+/// What leads elsewhere counts as a file, or the removal would go on there. The standard library
+/// does not tell a junction from a folder.
+bool isLink(const std::filesystem::path &path)
+{
+    const QFileInfo info(path);
+    return info.isSymLink() || info.isJunction();
+}
+
 bool holdsOnlyFolders(const std::filesystem::path &folder)
 {
     std::error_code error;
@@ -12,7 +22,8 @@ bool holdsOnlyFolders(const std::filesystem::path &folder)
     const std::filesystem::directory_iterator end;
     while (!error && entries != end) {
         const std::filesystem::file_status status = entries->symlink_status(error);
-        if (error || !std::filesystem::is_directory(status) || !holdsOnlyFolders(entries->path())) {
+        if (error || !std::filesystem::is_directory(status) || isLink(entries->path()) ||
+            !holdsOnlyFolders(entries->path())) {
             return false;
         }
         entries.increment(error);

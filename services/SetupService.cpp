@@ -46,6 +46,9 @@ SetupService::SetupResult SetupService::initializeApp(const QString &dbPath)
 
 void SetupService::restartApp()
 {
+    // The new process may have to put another file in the place of this one, which no system does
+    // well and some refuse while it is open here.
+    m_databases->releaseFile();
     // The list's first element is the program itself and stays in: each restart hands on one
     // argument more, and nothing reads them.
     QProcess::startDetached(QCoreApplication::applicationFilePath(), QCoreApplication::arguments(),
@@ -57,6 +60,8 @@ bool SetupService::buildDatabase(const QString &dbPath)
 {
     if (!m_databases->initialize(dbPath)) {
         qCCritical(lcDatabase) << "Database initialization failed.";
+        // An open file cannot be removed everywhere.
+        m_databases->releaseFile();
         // Only the file itself: what SQLite left beside it stays.
         QFile::remove(dbPath);
         return false;

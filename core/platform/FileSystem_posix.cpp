@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/platform/FileSystem.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <cerrno>
@@ -73,4 +74,23 @@ bool FileSystem::replaceBy(const QString &path, const QString &replacement)
 {
     return std::rename(QFile::encodeName(replacement).constData(),
                        QFile::encodeName(path).constData()) == 0;
+}
+
+bool FileSystem::remove(const QString &path)
+{
+    return QFile::remove(path);
+}
+
+bool FileSystem::isSameFile(const QString &path, const QString &otherPath)
+{
+    struct stat file = {};
+    struct stat other = {};
+    return stat(QFile::encodeName(path).constData(), &file) == 0 &&
+           stat(QFile::encodeName(otherPath).constData(), &other) == 0 &&
+           file.st_dev == other.st_dev && file.st_ino == other.st_ino;
+}
+
+bool FileSystem::isVolumeRoot(const QString &folder)
+{
+    return QDir(folder).isRoot();
 }

@@ -32,6 +32,20 @@ SettingsStore::Changes current(const QStringList &keys)
     return values;
 }
 
+/// Read from the registry itself: every QSettings asks it anew.
+bool holds(const SettingsStore::Changes &changes)
+{
+    const QSettings settings;
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        const bool isWanted = !change.value().isNull();
+        if (settings.contains(change.key()) != isWanted ||
+            settings.value(change.key()).toString() != change.value()) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// The registry writes to the disk some seconds later unless it is asked to.
 bool flush()
 {
@@ -53,7 +67,7 @@ bool SettingsStore::store(const Changes &changes)
 {
     const Changes before = current(changes.keys());
     write(changes);
-    if (current(changes.keys()) == changes && flush()) {
+    if (holds(changes) && flush()) {
         return true;
     }
     write(before);

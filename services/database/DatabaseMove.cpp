@@ -5,6 +5,7 @@
 #include "core/DatabaseManager.h"
 #include "core/Durable.h"
 #include "core/Logging.h"
+#include "core/platform/FileSystem.h"
 #include "services/AppService.h"
 #include "services/database/DatabaseCompanions.h"
 #include "services/FolderTidying.h"
@@ -88,7 +89,7 @@ bool DatabaseMove::switchTo(const QString &target, const QString &source)
     if (!takesOver(target) || !configure(target)) {
         // Closed first: an open file cannot be removed everywhere.
         m_databases->closeDatabase();
-        QFile::remove(target);
+        FileSystem::remove(target);
         return false;
     }
     return true;
@@ -120,13 +121,15 @@ bool DatabaseMove::configure(const QString &target)
 void DatabaseMove::removeSource(const QString &source)
 {
     // The move has happened: nothing from here on undoes it or fails it.
-    if (!QFile::remove(source)) {
+    if (!FileSystem::remove(source)) {
         qCWarning(lcDatabase) << "Failed to delete old database.";
     }
     removeCompanions(source);
     QDir emptied = QFileInfo(source).absoluteDir();
     emptied.cdUp();
-    if (holdsNoFile(emptied) && !emptied.removeRecursively()) {
+    // With a disk's root would go every empty folder of the disk.
+    if (holdsNoFile(emptied) &&
+        (FileSystem::isVolumeRoot(emptied.path()) || !emptied.removeRecursively())) {
         qCWarning(lcDatabase) << "Failed to remove empty directory.";
     }
 }

@@ -6,6 +6,7 @@
 #include "core/DatabaseSeeder.h"
 #include "core/Durable.h"
 #include "core/Logging.h"
+#include "core/platform/FileSystem.h"
 #include "repositories/RegionalSettingsRepository.h"
 #include "services/AppService.h"
 #include "services/database/DatabaseCompanions.h"
@@ -54,7 +55,7 @@ bool DatabaseReplacement::removePreviousBackup() const
         return true;
     }
     qCWarning(lcSetup) << "Removing previous database backup";
-    if (!QFile::remove(m_backupPath)) {
+    if (!FileSystem::remove(m_backupPath)) {
         qCCritical(lcDatabase) << "Failed to remove previous database backup:" << m_backupPath;
         return false;
     }
@@ -117,7 +118,7 @@ bool DatabaseReplacement::adoptNewDatabase()
 
 void DatabaseReplacement::removeBackup() const
 {
-    if (!QFile::remove(m_backupPath)) {
+    if (!FileSystem::remove(m_backupPath)) {
         qCWarning(lcSetup) << "Failed to remove database backup. The backup has been retained.";
     }
 }
@@ -126,7 +127,7 @@ void DatabaseReplacement::rollBack()
 {
     qCCritical(lcDatabase) << "Failed to initialize replacement database.";
     m_databases->closeDatabase();
-    if (QFile::exists(m_path) && !QFile::remove(m_path)) {
+    if (QFile::exists(m_path) && !FileSystem::remove(m_path)) {
         qCCritical(lcDatabase) << "Failed to remove partially-created replacement database";
     } else {
         // What belonged to the replacement must not stand beside the original.

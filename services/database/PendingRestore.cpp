@@ -6,6 +6,7 @@
 #include "core/DatabaseManager.h"
 #include "core/Durable.h"
 #include "core/Logging.h"
+#include "core/platform/FileSystem.h"
 #include "services/database/DatabaseCompanions.h"
 #include "services/database/StoredPaths.h"
 #include "services/SettingsKeys.h"
@@ -33,22 +34,37 @@ bool isRestorable(const QString &path, const char *missingText)
     return true;
 }
 
-bool isSameFile(const QString &path, const QString &otherPath)
+/// False where another program has the live file open and the system therefore keeps it. Its log
+/// stays then too: it may hold what was sold last.
+bool makeRoom(const QString &path)
 {
-    return QFileInfo(path).canonicalFilePath() == QFileInfo(otherPath).canonicalFilePath();
+    static_cast<void>(Durable::makeFolder(QFileInfo(path).absolutePath()));
+    if (!FileSystem::remove(path) && QFileInfo(path).isFile()) {
+        qCCritical(lcDatabase) << "Failed to remove the database that the restored one replaces:"
+                               << path;
+        return false;
+    }
+    removeCompanions(path);
+    return true;
 }
 
 bool putInPlace(const QString &staged, const QString &path)
 {
-    static_cast<void>(Durable::makeFolder(QFileInfo(path).absolutePath()));
-    QFile::remove(path);
-    removeCompanions(path);
     QString reason;
     if (!Durable::copy(staged, path, &reason)) {
         qCCritical(lcDatabase) << "Failed to copy the database to restore:" << staged << reason;
         return false;
     }
     return true;
+}
+
+bool forget(const QString &staged)
+{
+    const bool isForgotten = StoredPaths::dropRestore();
+    if (!isForgotten) {
+        qCCritical(lcDatabase) << "Failed to forget the database to restore:" << staged;
+    }
+    return isForgotten;
 }
 } // namespace
 
@@ -76,15 +92,19 @@ bool PendingRestore::apply()
     }
     const bool isFit = isRestorable(staged, "Database restore file does not exist");
     // Someone restored the live file: it is in its place, and removing it would lose it.
-    const bool isLive = isFit && isSameFile(staged, path);
-    if (isFit && !isLive && !putInPlace(staged, path)) {
+    const bool isCopied = isFit && !FileSystem::isSameFile(staged, path);
+    if (isCopied && !makeRoom(path)) {
+        // The live file stands and is sold on: the next start must not copy over that.
+        static_cast<void>(forget(staged));
         return false;
     }
-    if (!StoredPaths::dropRestore()) {
-        qCCritical(lcDatabase) << "Failed to forget the database to restore:" << staged;
-        if (isFit && !isLive) {
+    if (isCopied && !putInPlace(staged, path)) {
+        return false;
+    }
+    if (!forget(staged)) {
+        if (isCopied) {
             // The next start copies it again, over whatever would be sold until then.
-            QFile::remove(path);
+            FileSystem::remove(path);
         }
         return false;
     }

@@ -3,6 +3,7 @@
 #include "models/MemberListModel.h"
 #include "models/MemberTransactionModel.h"
 #include "support/ModelRows.h"
+#include "support/TestEnvironment.h"
 #include "support/ZelvanTest.h"
 
 #include <QSignalSpy>
@@ -25,8 +26,7 @@ private slots:
 
 void tst_MemberModels::cleanup()
 {
-    qunsetenv("TZ");
-    tzset();
+    TestEnvironment::setTimeZone({});
 }
 
 void tst_MemberModels::membersAreReplacedInOneReset()
@@ -90,8 +90,7 @@ void tst_MemberModels::aStoredTimeIsReadAsUtcAndShownLocally()
     QFETCH(QByteArray, zone);
     QFETCH(QString, stored);
     QFETCH(QString, shown);
-    qputenv("TZ", zone);
-    tzset();
+    TestEnvironment::setTimeZone(zone);
     MemberTransactionModel model;
 
     model.setTransactions({{9, 3, 8, "earn", 12, stored, 17}});

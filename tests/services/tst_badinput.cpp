@@ -258,7 +258,7 @@ void tst_BadInput::aFullDiskFailsThePaymentWhole()
     const qint64 written = QFileInfo(m_store->database.path() + "-wal").size();
     QVERIFY(written > 0);
     {
-        const FileSizeLimit fullDisk{static_cast<rlim_t>(written)};
+        const FileSizeLimit fullDisk(written);
         const LogCapture log;
 
         QVERIFY(!m_store->services.checkout.completeCheckout(session, {}, 0));

@@ -17,8 +17,6 @@
 #include <QSettings>
 #include <QSqlQuery>
 
-#include <sys/stat.h>
-
 /// Moving the live database, with each step failing in turn.
 class tst_DatabaseMove : public DatabaseFileTest
 {
@@ -86,12 +84,8 @@ void forgetMigration(const QString &path, const QString &number)
 void giveAway(const QString &path)
 {
     const auto give = [](const QString &entry) {
-        const QByteArray name = QFile::encodeName(entry);
-        chmod(name.constData(), 0777);
-        if (geteuid() == 0 &&
-            chown(name.constData(), UnprivilegedUser::id, UnprivilegedUser::id) != 0) {
-            qFatal("cannot give %s away", name.constData());
-        }
+        UnprivilegedUser::setMode(entry, 0777);
+        UnprivilegedUser::own(entry);
     };
     give(path);
     QDirIterator entries(path, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
@@ -256,7 +250,7 @@ void tst_DatabaseMove::withoutACheckpointNothingMoves()
 
 void tst_DatabaseMove::aFailedCopyEndsBackOnTheOldFile()
 {
-    constexpr rlim_t limit = 100'000;
+    constexpr qint64 limit = 100'000;
     openStore(inFolder("here/Zelvan.db"));
     DatabaseFiles::run(inFolder("here/Zelvan.db"),
                        "UPDATE restaurant SET address = hex(zeroblob(200000))");
@@ -391,7 +385,7 @@ void tst_DatabaseMove::aFolderThatStaysDoesNotFailTheMove()
     QDir().mkpath(inFolder("there"));
     const QString home = QDir(folder()).filePath("../..");
     giveAway(QDir(home).canonicalPath());
-    chmod(QFile::encodeName(inFolder("locked")).constData(), 0555);
+    UnprivilegedUser::setMode(inFolder("locked"), 0555);
 
     expectLog(QtWarningMsg, "Failed to remove empty directory.");
     bool moved = false;
@@ -405,7 +399,7 @@ void tst_DatabaseMove::aFolderThatStaysDoesNotFailTheMove()
     QVERIFY(moved);
     QVERIFY(QFile::exists(inFolder("locked/ZelvanPOS")));
     QCOMPARE(m_app.databasePath(), inFolder("there/ZelvanPOS/data/Zelvan.db"));
-    chmod(QFile::encodeName(inFolder("locked")).constData(), 0755);
+    UnprivilegedUser::setMode(inFolder("locked"), 0755);
 }
 
 ZELVAN_TEST(tst_DatabaseMove)

@@ -225,7 +225,7 @@ void tst_DatabaseReplace::aReplacementThatCannotBeInitialisedIsRolledBack()
 
 void tst_DatabaseReplace::aFullDiskIsRolledBack()
 {
-    constexpr rlim_t limit = 64 * 1024;
+    constexpr qint64 limit = 64 * 1024;
     DatabaseFiles::makeStore(m_path, "old");
 
     expectLog(QtCriticalMsg, "Failed to commit transaction:");
@@ -244,7 +244,7 @@ void tst_DatabaseReplace::aFullDiskIsRolledBack()
 void tst_DatabaseReplace::leftoversOfTheReplacementGo()
 {
     // No room even for the index of the write-ahead log, which then stays behind half-made.
-    constexpr rlim_t limit = 16 * 1024;
+    constexpr qint64 limit = 16 * 1024;
     DatabaseFiles::makeStore(m_path, "old");
     std::unique_ptr<FileSizeLimit> fullDisk;
     {

@@ -242,7 +242,7 @@ void tst_DatabaseService::aBackupCutShortByAFullDiskLeavesNothing()
 
     expectLog(QtWarningMsg, "Backup failed:");
     {
-        const FileSizeLimit fullDisk(rlim_t(bytes) / 2);
+        const FileSizeLimit fullDisk(bytes / 2);
         QVERIFY(!m_service.backupDatabase());
     }
 

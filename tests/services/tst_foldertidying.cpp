@@ -3,12 +3,11 @@
 #include "services/FolderTidying.h"
 #include "support/DatabaseFiles.h"
 #include "support/DatabaseFileTest.h"
+#include "support/OddEntry.h"
 #include "support/UnprivilegedUser.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-
-#include <sys/stat.h>
 
 class tst_FolderTidying : public DatabaseFileTest
 {
@@ -35,7 +34,7 @@ void tst_FolderTidying::anyKindOfEntryCounts_data()
     QTest::addColumn<QString>("kind");
 
     for (const char *kind : {"file", "hidden file", "link to a file", "link to a folder",
-                             "dangling link", "pipe", "Chinese name"}) {
+                             "dangling link", "odd entry", "Chinese name"}) {
         QTest::newRow(kind) << kind;
     }
 }
@@ -54,8 +53,8 @@ void tst_FolderTidying::anyKindOfEntryCounts()
     }
     if (kind.contains("link")) {
         QVERIFY(QFile::link(target, inFolder("a/b/entry")));
-    } else if (kind == QLatin1String("pipe")) {
-        QCOMPARE(mkfifo(QFile::encodeName(inFolder("a/b/entry")).constData(), 0600), 0);
+    } else if (kind == QLatin1String("odd entry")) {
+        QVERIFY(makeOddEntry(inFolder("a/b/entry")));
     } else if (kind == QLatin1String("hidden file")) {
         DatabaseFiles::makeText(inFolder("a/b/.entry"));
     } else if (kind == QLatin1String("Chinese name")) {
@@ -74,14 +73,14 @@ void tst_FolderTidying::aFolderThatIsNotThereCountsAsNotEmpty()
 
 void tst_FolderTidying::aFolderThatCannotBeReadCountsAsNotEmpty()
 {
-    const QByteArray closedFolder = QFile::encodeName(inFolder("a/closed"));
-    QDir().mkpath(inFolder("a/closed"));
+    const QString closedFolder = inFolder("a/closed");
+    QDir().mkpath(closedFolder);
     QDir home(folder());
     for (int level = 0; level < 3; ++level) {
-        chmod(QFile::encodeName(home.absolutePath()).constData(), 0755);
+        UnprivilegedUser::setMode(home.absolutePath(), 0755);
         home.cdUp();
     }
-    chmod(closedFolder.constData(), 0000);
+    UnprivilegedUser::setMode(closedFolder, 0000);
 
     bool empty = true;
     bool emptyBesideIt = false;
@@ -89,7 +88,7 @@ void tst_FolderTidying::aFolderThatCannotBeReadCountsAsNotEmpty()
         const UnprivilegedUser nobody;
         empty = holdsNoFile(QDir(inFolder("a")));
     }
-    chmod(closedFolder.constData(), 0755);
+    UnprivilegedUser::setMode(closedFolder, 0755);
     {
         const UnprivilegedUser nobody;
         emptyBesideIt = holdsNoFile(QDir(inFolder("a")));

@@ -9,6 +9,7 @@
 #include "support/DatabaseFileTest.h"
 #include "support/FileSizeLimit.h"
 #include "support/FullSettingsDisk.h"
+#include "support/LogCapture.h"
 
 #include <QDir>
 #include <QFile>
@@ -35,6 +36,9 @@ private slots:
     void aFailedCopyIsTriedAgainAtTheNextStart();
     void aCopyThatFailsOnAFullDiskLeavesTheStagedFileWhole();
     void theLiveFileItselfIsNotLost();
+    void aLiveFileThatSomebodyHasOpenIsReplacedWholeOrNotAtAll();
+    void aRestoredStoreMayBeWritten();
+    void aLiveFileThatMayNotBeWrittenIsReplaced();
     void aRestoreThatCannotBeForgottenIsNotWorkedOn();
     void aRestoreStagedBeforeIsDropped_data();
     void aRestoreStagedBeforeIsDropped();
@@ -186,14 +190,13 @@ void tst_PendingRestore::aFailedCopyIsTriedAgainAtTheNextStart()
 
 void tst_PendingRestore::aCopyThatFailsOnAFullDiskLeavesTheStagedFileWhole()
 {
-    constexpr rlim_t limit = 100'000;
+    constexpr qint64 limit = 100'000;
     DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
     DatabaseFiles::makeStore(inFolder("old.db"), "old");
     stage(inFolder("old.db"), inFolder("Zelvan.db"));
 
-    expectLog(QtCriticalMsg,
-              QStringLiteral("Failed to copy the database to restore: \"%1\" \"File too large\"")
-                  .arg(inFolder("old.db")));
+    expectLog(QtCriticalMsg, QStringLiteral("Failed to copy the database to restore: \"%1\" \"%2\"")
+                                 .arg(inFolder("old.db"), FileSizeLimit::reason()));
     {
         const FileSizeLimit fullDisk(limit);
         QVERIFY(!DatabaseService::applyPendingRestore());
@@ -210,12 +213,72 @@ void tst_PendingRestore::aCopyThatFailsOnAFullDiskLeavesTheStagedFileWhole()
 void tst_PendingRestore::theLiveFileItselfIsNotLost()
 {
     DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
-    stage(folder() + "/./Zelvan.db", inFolder("Zelvan.db"));
+    const QString live = inFolder("Zelvan.db");
+    QVERIFY(QFile::link(folder(), inFolder("other")));
+    int spellings = 0;
+    for (const QString &name :
+         {folder() + "/./Zelvan.db", inFolder("other/Zelvan.db"), QDir::toNativeSeparators(live),
+          live.toLower(), live.toUpper(), live + "."}) {
+        // Which of them lead to it, the system says.
+        if (!QFileInfo::exists(name)) {
+            continue;
+        }
+        stage(name, live);
+
+        QVERIFY2(DatabaseService::applyPendingRestore(), qPrintable(name));
+
+        QCOMPARE(DatabaseFiles::storeName(live), QStringLiteral("live"));
+        QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+        ++spellings;
+    }
+    QVERIFY(spellings >= 3);
+}
+
+void tst_PendingRestore::aLiveFileThatSomebodyHasOpenIsReplacedWholeOrNotAtAll()
+{
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    DatabaseFiles::makeText(inFolder("Zelvan.db-wal"));
+    stage(inFolder("old.db"), inFolder("Zelvan.db"));
+    QFile reader(inFolder("Zelvan.db"));
+    QVERIFY(reader.open(QIODevice::ReadOnly));
+    const LogCapture log;
+
+    const bool restored = DatabaseService::applyPendingRestore();
+
+    // What is sold from here on, the next start must not copy over.
+    QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+    QCOMPARE(log.lines().isEmpty(), restored);
+    QCOMPARE(QFile::exists(inFolder("Zelvan.db-wal")), !restored);
+    reader.close();
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QString(restored ? "old" : "live"));
+}
+
+void tst_PendingRestore::aRestoredStoreMayBeWritten()
+{
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    QVERIFY(QFile::setPermissions(inFolder("old.db"), QFile::ReadOwner | QFile::ReadUser));
+    stage(inFolder("old.db"), inFolder("Zelvan.db"));
 
     QVERIFY(DatabaseService::applyPendingRestore());
 
-    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("live"));
-    QVERIFY(!QSettings().contains(SettingsKeys::pendingRestore));
+    QVERIFY(QFileInfo(inFolder("Zelvan.db")).isWritable());
+    QVERIFY(DatabaseManager::initialize(inFolder("Zelvan.db")));
+    DatabaseFiles::run(inFolder("Zelvan.db"), "UPDATE restaurant SET name = 'new'");
+    QVERIFY(QFile::setPermissions(inFolder("old.db"), QFile::ReadOwner | QFile::WriteOwner));
+}
+
+void tst_PendingRestore::aLiveFileThatMayNotBeWrittenIsReplaced()
+{
+    DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
+    DatabaseFiles::makeStore(inFolder("old.db"), "old");
+    QVERIFY(QFile::setPermissions(inFolder("Zelvan.db"), QFile::ReadOwner | QFile::ReadUser));
+    stage(inFolder("old.db"), inFolder("Zelvan.db"));
+
+    QVERIFY(DatabaseService::applyPendingRestore());
+
+    QCOMPARE(DatabaseFiles::storeName(inFolder("Zelvan.db")), QStringLiteral("old"));
 }
 
 void tst_PendingRestore::aRestoreThatCannotBeForgottenIsNotWorkedOn()

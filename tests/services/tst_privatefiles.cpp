@@ -7,6 +7,7 @@
 #include "services/SetupService.h"
 #include "support/DatabaseFiles.h"
 #include "support/DatabaseFileTest.h"
+#include "support/UnprivilegedUser.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -15,8 +16,6 @@
 #include <QSettings>
 #include <QSqlQuery>
 #include <QStandardPaths>
-
-#include <sys/stat.h>
 
 /// Whatever the program makes, no other account of the computer can read, while it leaves alone
 /// what was there. The process lets others read what nobody asks about, as most do.
@@ -40,7 +39,6 @@ private slots:
 private:
     /// Everything below the folder that another account has a right to.
     [[nodiscard]] static QStringList open(const QString &folder);
-    static void setMode(const QString &path, mode_t mode);
 
     AppService m_app;
     DatabaseManager m_databases;
@@ -64,14 +62,9 @@ QStringList tst_PrivateFiles::open(const QString &folder)
     return found;
 }
 
-void tst_PrivateFiles::setMode(const QString &path, mode_t mode)
-{
-    QCOMPARE(chmod(QFile::encodeName(path).constData(), mode), 0);
-}
-
 void tst_PrivateFiles::initTestCase()
 {
-    umask(022);
+    UnprivilegedUser::letOthersRead();
 }
 
 void tst_PrivateFiles::init()
@@ -104,7 +97,7 @@ void tst_PrivateFiles::aBackupIsPrivate()
 {
     QFETCH(int, mode);
     DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
-    setMode(inFolder("Zelvan.db"), mode_t(mode));
+    UnprivilegedUser::setMode(inFolder("Zelvan.db"), mode);
     m_app.setDatabasePath(inFolder("Zelvan.db"));
     QVERIFY(DatabaseManager::initialize(inFolder("Zelvan.db")));
 
@@ -126,7 +119,7 @@ void tst_PrivateFiles::aReplacementIsPrivate()
 void tst_PrivateFiles::aMovedStoreIsPrivate()
 {
     DatabaseFiles::makeStore(inFolder("Zelvan.db"), "live");
-    setMode(inFolder("Zelvan.db"), 0644);
+    UnprivilegedUser::setMode(inFolder("Zelvan.db"), 0644);
     m_app.setDatabasePath(inFolder("Zelvan.db"));
     QVERIFY(DatabaseManager::initialize(inFolder("Zelvan.db")));
 
@@ -139,7 +132,7 @@ void tst_PrivateFiles::aMovedStoreIsPrivate()
 void tst_PrivateFiles::aRestoredStoreIsPrivate()
 {
     DatabaseFiles::makeStore(inFolder("old.db"), "old");
-    setMode(inFolder("old.db"), 0644);
+    UnprivilegedUser::setMode(inFolder("old.db"), 0644);
     m_app.setDatabasePath(inFolder("a/Zelvan.db"));
     QVERIFY(m_service.restoreDatabase(inFolder("old.db")));
 
@@ -161,10 +154,10 @@ void tst_PrivateFiles::theLogIsPrivate()
 void tst_PrivateFiles::whatWasThereKeepsItsRights()
 {
     QVERIFY(QDir().mkpath(inFolder("there/backups")));
-    setMode(inFolder("there"), 0755);
-    setMode(inFolder("there/backups"), 0755);
+    UnprivilegedUser::setMode(inFolder("there"), 0755);
+    UnprivilegedUser::setMode(inFolder("there/backups"), 0755);
     DatabaseFiles::makeStore(inFolder("there/Zelvan.db"), "live");
-    setMode(inFolder("there/Zelvan.db"), 0640);
+    UnprivilegedUser::setMode(inFolder("there/Zelvan.db"), 0640);
     m_app.setDatabasePath(inFolder("there/Zelvan.db"));
     QVERIFY(DatabaseManager::initialize(inFolder("there/Zelvan.db")));
 

@@ -31,6 +31,7 @@ private slots:
     void aHalfBuiltFileIsDeleted();
     void aHalfSeededFileStaysAndIsNotConfigured();
     void aPathThatCannotBeSavedFails();
+    void aRestartLetsGoOfTheDatabase();
 
 private:
     AppService m_app;
@@ -158,7 +159,7 @@ void tst_SetupService::aPathThatCannotBeOpenedFails()
 
 void tst_SetupService::aHalfBuiltFileIsDeleted()
 {
-    constexpr rlim_t limit = 64 * 1024;
+    constexpr qint64 limit = 64 * 1024;
 
     expectLog(QtCriticalMsg, "Failed to commit transaction:");
     expectLog(QtCriticalMsg, "Database initialization failed.");
@@ -203,6 +204,21 @@ void tst_SetupService::aPathThatCannotBeSavedFails()
 
     QVERIFY(!m_app.hasDatabasePath());
     QVERIFY(DatabaseManager::isZelvanDatabase(path));
+}
+
+void tst_SetupService::aRestartLetsGoOfTheDatabase()
+{
+    const QString path = inFolder("Zelvan.db");
+    QCOMPARE(m_setup.initializeApp(path), SetupService::Success);
+    // What every repository has.
+    const QSqlDatabase handle = DatabaseManager::connection();
+    QVERIFY(QFile::exists(path + "-wal"));
+
+    m_setup.restartApp();
+
+    QVERIFY(!handle.isOpen());
+    QVERIFY(!QFile::exists(path + "-wal"));
+    QVERIFY(QFile::remove(path));
 }
 
 ZELVAN_TEST(tst_SetupService)

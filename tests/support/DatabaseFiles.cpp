@@ -109,7 +109,8 @@ QString DatabaseFiles::storeName(const QString &path)
 
 QString DatabaseFiles::makeUnopenableFolder(const QString &path)
 {
-    constexpr int longestPathOfSqlite = 512;
+    // Of all systems: 512 bytes here, 1040 there.
+    constexpr int longestPathOfSqlite = 1040;
     QString folder = path;
     while (folder.size() <= longestPathOfSqlite) {
         folder += QLatin1Char('/') + QString(100, QLatin1Char('d'));

@@ -2,30 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
-#include <csignal>
-#include <sys/resource.h>
+#include <memory>
 
-/// No file of this process grows past the size while the object lives: a disk that fills up.
+/// No file of this process grows past the size while the object lives: a disk that fills up. One at
+/// a time.
 class FileSizeLimit final
 {
 public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_previous);
-        const rlimit limit{bytes, m_previous.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_previous);
-        std::signal(SIGXFSZ, m_previousHandler);
-    }
+    explicit FileSizeLimit(qint64 bytes);
+    ~FileSizeLimit();
     Q_DISABLE_COPY_MOVE(FileSizeLimit)
 
+    /// What the system says of a write that did not fit.
+    [[nodiscard]] static QString reason();
+
 private:
-    rlimit m_previous{};
-    void (*m_previousHandler)(int);
+    struct Previous;
+
+    std::unique_ptr<Previous> m_previous;
 };

@@ -18,7 +18,9 @@ TestEnvironment::TestEnvironment()
     use("XDG_CONFIG_HOME", "config");
     use("XDG_DATA_HOME", "data");
     use("XDG_CACHE_HOME", "cache");
-    use("TMPDIR", "tmp");
+    for (const char *variable : {"TMPDIR", "TMP", "TEMP"}) {
+        use(variable, "tmp");
+    }
     use("HOME", "home");
     QFile::setPermissions(home.filePath(QStringLiteral("runtime")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -27,9 +29,17 @@ TestEnvironment::TestEnvironment()
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     // Tickets are bytes in the local encoding, so the tests fix it.
     qputenv("LC_ALL", "C.UTF-8");
+    // Without a console Windows would have the messages go to a debugger.
+    qputenv("QT_FORCE_STDERR_LOGGING", "1");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    makeSettings();
+}
+
+TestEnvironment::~TestEnvironment()
+{
+    removeSettings();
 }
 
 void TestEnvironment::nameApplication()
