@@ -63,6 +63,7 @@ def main():
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)
         shutil.copy(ROOT / "CMakePresets.json", folder)
+        shutil.copytree(ROOT / "cmake", folder / "cmake")
         (folder / "CMakeLists.txt").write_text(PROJECT, encoding="utf-8")
         for each in presets["configurePresets"]:
             if not each.get("hidden"):

@@ -18,7 +18,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 NOT_OURS = {".git", "build", ".cache", "__pycache__"}  # folders
-NO_LICENCE_LINES = {".md", ".png", ".json", ".ts", ".sql", ".bin", ".svg"}
+NO_LICENCE_LINES = {".md", ".png", ".json", ".ts", ".sql", ".bin", ".svg", ".ico"}
 SOURCE_FOLDERS = ("core", "repositories", "models", "services", "printing", "qml")
 
 
