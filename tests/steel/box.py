@@ -50,6 +50,9 @@ class Box:
         self.store = self.disk / "store" / "Zelvan.db"
         self.worker = build / "tests" / "steel_worker"
         self.library = build / "tests" / "libsteel_disk.so"
+        # What starts the worker, and the variables it wants.
+        self.through = []
+        self.variables = {}
         self.kept = self.folder / "kept"
         self.config.mkdir(parents=True)
         (self.folder / "data").mkdir()
@@ -60,6 +63,7 @@ class Box:
         own |= {"HOME": str(self.folder), "XDG_CONFIG_HOME": str(self.config),
                 "XDG_DATA_HOME": str(self.folder / "data"), "XDG_RUNTIME_DIR": str(self.folder / "data"),
                 "LC_ALL": "C.UTF-8", "TZ": "UTC", "QT_QPA_PLATFORM": "offscreen", "QT_QUICK_BACKEND": "software"}
+        own |= self.variables
         if disk:
             own |= {"LD_PRELOAD": str(self.library), "STEEL_ROOT": f"{self.disk}/"}
             own |= {f"STEEL_{name.upper()}": str(value) for name, value in disk.items()}
@@ -67,7 +71,7 @@ class Box:
 
     def start(self, *arguments, **disk):
         """A run that goes on; its words come through its standard output."""
-        return subprocess.Popen([self.worker, *map(str, arguments)], env=self.environment(**disk),
+        return subprocess.Popen([*self.through, self.worker, *map(str, arguments)], env=self.environment(**disk),
                                 stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
 
     def run(self, *arguments, patience=PATIENCE, **disk):

@@ -1,10 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 # SPDX-License-Identifier: GPL-3.0-only
-"""A long day in one process: orders paid and printed, and the screens turned all the while. Neither its
-memory nor its file handles may grow with the work once it has seen everything."""
+"""Weeks in one process: orders paid and printed, and the screens turned all the while. Neither its
+memory nor its file handles may grow with the work once it has seen everything: after the first tenth of the
+long form. In the quick form SQLite's own memory is full after its first half only."""
 from tally import Tally
 
-MOST_GROWTH = 4096  # kilobytes after the first tenth
+MOST_GROWTH = 4096  # kilobytes
 HOURS = 6 * 3600
 
 
@@ -24,6 +25,9 @@ def run(proof):
     box.good("setup", box.store)
     box.good("furnish")
     box.worker = proof.build / "tests" / "steel_soak"
+    # It moves the clock itself, a day for every 500 orders.
+    box.through = ["faketime", "-f", "+0d"]
+    box.variables = {"FAKETIME_NO_CACHE": "1", "DONT_FAKE_MONOTONIC": "1"}
     orders, pages = proof.size(2000, 50000), proof.size(200, 5000)
     done = box.run(orders, pages, patience=HOURS)
     tally.ending(done, "soak")
@@ -34,7 +38,7 @@ def run(proof):
     tally.trial("orders", orders)
     tally.trial("documents printed", parts[-1]["printed"])
     tally.trial("page changes", pages)
-    begin, end = parts[0], parts[-1]
+    begin, end = parts[proof.size(4, 0)], parts[-1]
     tally.trial("KB more of heap", end["heap"] - begin["heap"])
     tally.trial("KB more of resident memory", end["resident"] - begin["resident"])
     tally.trial("handles", end["handles"])

@@ -18,6 +18,7 @@ import time
 import company
 import faults
 import hostilefiles
+import hostiletexts
 import kills
 import ladders
 import powercuts
@@ -25,7 +26,7 @@ import soak
 from box import Box
 
 PARTS = {part.__name__: part.run for part in (
-    kills, faults, powercuts, ladders, company, hostilefiles, soak)}
+    kills, faults, powercuts, ladders, company, hostilefiles, hostiletexts, soak)}
 
 
 class Proof:

@@ -19,10 +19,18 @@ constexpr int parts = 10;
 /// Bills that were left open are paid now and then, as they would be.
 constexpr int roundsBetweenSettlements = 50;
 constexpr unsigned seed = 41;
+constexpr int ordersADay = 500;
+
+/// Under libfaketime, which reads it at every look at the clock: the store has days behind it, as
+/// it would, and not one of fifty thousand orders.
+void turnToDay(int day)
+{
+    qputenv("FAKETIME", '+' + QByteArray::number(day) + 'd');
+}
 } // namespace
 
-/// "steel_soak ORDERS PAGES": a long day in one process, on the store of the settings. Tells its
-/// size after each tenth of it, always on the same page.
+/// "steel_soak ORDERS PAGES": weeks in one process, on the store of the settings. Tells its size
+/// after each tenth of them, always on the same page.
 int main(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
@@ -45,10 +53,14 @@ int main(int argc, char **argv)
     const int pages = arguments.value(2).toInt() / parts;
     PageTurner turner(engine);
     Trade trade(till, seed, 1);
+    int ordered = 0;
     for (int part = 1; part <= parts; ++part) {
         int turned = 0;
         for (int round = 1; round <= orders; ++round) {
             trade.round();
+            if (++ordered % ordersADay == 0) {
+                turnToDay(ordered / ordersADay);
+            }
             if (round % roundsBetweenSettlements == 0) {
                 trade.settle();
             }
