@@ -13,8 +13,11 @@
 namespace {
 constexpr qint64 kilobyte = 1024;
 
-/// Files, pipes and the like. The one file that SQLite keeps its temporary tables in is left out:
-/// it comes when they outgrow their memory, and stays.
+/// For temporary tables, for their journal, and for the journal of one statement.
+constexpr qint64 temporaryFiles = 3;
+
+/// Files, pipes and the like. SQLite's few temporary files are left out: each comes when what it is
+/// for outgrows its memory, and stays.
 qint64 openHandles()
 {
     const QDir folder(QStringLiteral("/proc/self/fd"));
@@ -25,7 +28,7 @@ qint64 openHandles()
         const QString target = QFile::symLinkTarget(folder.filePath(name));
         ++(target.contains(QLatin1String("/etilqs_")) ? temporary : handles);
     }
-    return handles + std::max<qint64>(0, temporary - 1);
+    return handles + std::max<qint64>(0, temporary - temporaryFiles);
 }
 } // namespace
 
