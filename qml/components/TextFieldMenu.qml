@@ -5,8 +5,9 @@ import QtQuick.Controls
 import zelvan
 import "MenuKey.js" as MenuKey
 
-// What a right click or the menu key offers in a field to type in: the same on every Qt, whose own menu is
-// not there on older ones and speaks but its own language on newer ones. A child of the field.
+// What a right click, a held finger or the menu key offers in a field to type in: the same on every Qt,
+// whose own menu is not there on older ones and speaks but its own language on newer ones. A child of the
+// field.
 MouseArea {
     id: root
 
@@ -41,6 +42,11 @@ MouseArea {
 
     acceptedButtons: Qt.RightButton
     anchors.fill: parent
+
+    HoldArea {
+        anchors.fill: parent
+        onHeld: (x, y) => root.open(x, y)
+    }
 
     Connections {
         target: root.editor.Keys

@@ -37,6 +37,7 @@ Tumbler {
         }
 
         anchors.fill: parent
+        z: 1
         activeFocusOnTab: true
 
         Accessible.role: Accessible.SpinBox
@@ -52,6 +53,15 @@ Tumbler {
             anchors.fill: parent
             radius: 6
             visible: speaker.activeFocus
+        }
+
+        // Turns to the number that is tapped. A tap on a column that runs on only stops it.
+        TapHandler {
+            enabled: !root.moving
+            onTapped: eventPoint => {
+                const beside = eventPoint.position.y - speaker.height / 2
+                speaker.turn(Math.round(beside * root.visibleItemCount / speaker.height))
+            }
         }
     }
 

@@ -177,6 +177,48 @@ TouchTestCase {
         verify(page.hour < 14, page.hour)
     }
 
+    function test_a_time_is_chosen_by_a_tap_on_it_data() {
+        return [
+            { tag: "the next", rows: 1, hour: 15 },
+            { tag: "two before", rows: -2, hour: 12 },
+            { tag: "the one chosen", rows: 0, hour: 14 }
+        ]
+    }
+
+    function test_a_time_is_chosen_by_a_tap_on_it(data) {
+        page = create("components/TimePicker")
+        page.x = 400
+        page.y = 200
+        waitForRendering(page)
+        const column = allShown(item => item.visibleItemCount !== undefined)[0]
+        column.currentIndex = 5
+        tryVerify(() => !column.moving)
+        const place = centre(column)
+
+        tapAt(place.x, place.y + data.rows * column.height / 5)
+
+        compare(page.hour, data.hour)
+    }
+
+    function test_a_held_finger_opens_the_menu_of_a_field_and_a_tap_does_not() {
+        show("admin/management/AdminTableManagement")
+        const input = field("Table name")
+        input.text = "A1"
+        const opened = () => hasButton("Select All")
+        tap(input)
+        verify(input.activeFocus)
+        verify(!opened())
+        const place = centre(input)
+
+        const took = hold(place.x, place.y, opened)
+        // Timers may be a twentieth early.
+        verify(took >= 760, took)
+        tapButton("Select All")
+
+        tryVerify(() => !opened())
+        compare(input.selectedText, "A1")
+    }
+
     function test_a_confirmation_is_answered_by_a_tap() {
         show("admin/management/AdminTableManagement")
 
