@@ -120,6 +120,8 @@ Item {
     Popup {
         id: popup
 
+        readonly property FocusReturn focusReturn: FocusReturn { owner: popup }
+
         objectName: "calendar"
         x: (root.width - width) / 2
         y: root.height + 5
@@ -130,6 +132,8 @@ Item {
         // Seven cells and their gaps are as wide as what is left.
         leftPadding: 18
         rightPadding: 18
+        topPadding: 12
+        bottomPadding: 12
         modal: true
         focus: true
         closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
@@ -204,5 +208,8 @@ Item {
                 }
             }
         }
+
+        onAboutToShow: focusReturn.remember()
+        onClosed: focusReturn.giveBack()
     }
 }

@@ -11,6 +11,7 @@ Popup {
     id: root
 
     property Item mainButton: null
+    readonly property FocusReturn focusReturn: FocusReturn { owner: root }
 
     anchors.centerIn: Overlay.overlay
     closePolicy: Popup.CloseOnEscape
@@ -27,4 +28,7 @@ Popup {
         Keys.onPressed: event => Fields.goOn(event, root.contentItem, root.mainButton)
     }
     background: DialogSurface {}
+
+    onAboutToShow: focusReturn.remember()
+    onClosed: focusReturn.giveBack()
 }

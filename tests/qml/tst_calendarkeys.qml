@@ -96,6 +96,19 @@ ZelvanTestCase {
         compare(iso(page.selectedDate), nextYear + "-05-12")
     }
 
+    function test_the_field_has_the_keys_again_afterwards_data() {
+        return [{ tag: "Escape", key: Qt.Key_Escape }, { tag: "Return", key: Qt.Key_Return }]
+    }
+
+    function test_the_field_has_the_keys_again_afterwards(data) {
+        openByKey()
+
+        keyClick(data.key)
+
+        tryVerify(() => !isOpen())
+        tryVerify(() => field("Date").activeFocus)
+    }
+
     function test_days_that_cannot_be_booked_cannot_be_taken_data() {
         return [{ tag: "past", now: "-05-20T10:00", far: false }, { tag: "after the last year", now: "-01-10T10:00", far: true }]
     }

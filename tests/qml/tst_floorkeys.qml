@@ -150,4 +150,16 @@ FloorTestCase {
 
         tryVerify(() => !hasButton("Hall"))
     }
+
+    function test_a_floor_s_tab_has_the_keys_again_after_its_menu() {
+        show("admin/management/AdminFloorPlanManagement")
+        button("Hall").forceActiveFocus(Qt.TabFocusReason)
+        keyClick(Qt.Key_F10, Qt.ShiftModifier)
+        tryVerify(() => hasButton("Delete Floor"))
+
+        keyClick(Qt.Key_Escape)
+
+        tryVerify(() => !hasButton("Delete Floor"))
+        tryVerify(() => button("Hall").activeFocus)
+    }
 }

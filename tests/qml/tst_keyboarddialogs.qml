@@ -126,4 +126,25 @@ KeyboardTestCase {
         verify(box.height >= 40)
         compare(seats, 12)
     }
+
+    function test_a_button_has_the_keys_again_after_its_dialog_data() {
+        return [
+            { tag: "Escape", press: () => keyClick(Qt.Key_Escape) },
+            { tag: "its button", press: () => press("Cancel") }
+        ]
+    }
+
+    function test_a_button_has_the_keys_again_after_its_dialog(data) {
+        screen("admin/management/AdminUserManagement")
+        const opener = button("Create User")
+        opener.forceActiveFocus(Qt.TabFocusReason)
+        keyClick(Qt.Key_Space)
+        tryVerify(() => hasButton("Cancel"))
+
+        data.press()
+
+        tryVerify(() => !hasButton("Cancel"))
+        tryVerify(() => opener.activeFocus)
+        verify(opener.visualFocus)
+    }
 }

@@ -190,6 +190,19 @@ ZelvanTestCase {
         compare(field("Rename").text, "Drinks")
     }
 
+    function test_the_list_has_the_keys_again_after_its_menu() {
+        openFood()
+        const list = row("Food").ListView.view
+        list.forceActiveFocus(Qt.TabFocusReason)
+        keyClick(Qt.Key_Menu)
+        tryVerify(() => hasButton("Rename"))
+
+        keyClick(Qt.Key_Escape)
+
+        tryVerify(() => !hasButton("Rename"))
+        tryVerify(() => list.activeFocus)
+    }
+
     function test_the_menu_of_a_row_stays_with_it_while_another_is_renamed() {
         addCategory("Drinks")
         show("admin/management/AdminMenuManagement")

@@ -132,4 +132,19 @@ ZelvanTestCase {
         compare([spinBox("Number Of Guests").value, spinBox("Duration (minutes)").value], [2, 90])
         verify(hasButton("Create Reservation"))
     }
+
+    function test_escape_in_the_calendar_leaves_the_dialog_open() {
+        openCreate(1)
+        field("Reservation Date").forceActiveFocus(Qt.TabFocusReason)
+        keyClick(Qt.Key_Return)
+        tryVerify(() => hasButton("Today"))
+
+        keyClick(Qt.Key_Escape)
+
+        tryVerify(() => !hasButton("Today"))
+        verify(dialog.opened)
+        tryVerify(() => field("Reservation Date").activeFocus)
+        keyClick(Qt.Key_Escape)
+        tryVerify(() => !dialog.visible)
+    }
 }
