@@ -14,6 +14,9 @@ ScrollList {
     property int barRoom: 12
 
     Layout.rightMargin: -barRoom
+    // Rows beyond the edges are made bit by bit, and a model that is filled anew meanwhile would leave a line
+    // in the log. Rows that are used again are there at once without.
+    cacheBuffer: 0
     reuseItems: true
 
     ScrollBar.vertical: RestingScrollBar {}
