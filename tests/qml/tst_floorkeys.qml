@@ -83,7 +83,7 @@ FloorTestCase {
         keyClick(Qt.Key_Down, Qt.ControlModifier)
         keyClick(Qt.Key_Up, Qt.ControlModifier | Qt.ShiftModifier)
         compare([item("").width, item("").rotation], [160, 14])
-        for (let i = 0; i < 20; ++i)
+        for (let i = 0; i < 25; ++i)
             keyClick(Qt.Key_Left, Qt.ControlModifier)
 
         compare(item("").width, 40)

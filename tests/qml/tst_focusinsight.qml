@@ -257,20 +257,41 @@ TouchTestCase {
         compare(content.y, 0)
     }
 
-    function test_tab_scrolls_a_page_to_what_it_leads_to() {
-        show("admin/settings/AdminMembershipSettings")
-        page.height = 300
+    function test_tab_scrolls_a_form_to_what_it_leads_to() {
         startWatching()
-        settle()
+        dialog = create("common/floor/ReservationDialog")
+        dialog.openCreate(1)
+        tryVerify(() => dialog.opened)
+        const view = ancestorView(field("Customer Name"))
+        verify(!isInView(field("Notes"), view))
 
-        for (let i = 0; i < 12; ++i) {
+        for (let i = 0; i < 20 && !field("Notes").activeFocus; ++i) {
             keyClick(Qt.Key_Tab)
             settle()
-            const focused = root.Window.activeFocusItem
-            const view = ancestorView(focused)
-            if (view)
-                verify(isInView(focused, view), focused.Accessible.name)
+            verify(isInView(root.Window.activeFocusItem, view), root.Window.activeFocusItem.Accessible.name)
         }
+        verify(field("Notes").activeFocus)
+        field("Customer Name").forceActiveFocus()
+
+        tryVerify(() => isInView(field("Customer Name"), view))
+    }
+
+    function test_a_plan_follows_to_a_table_that_is_not_seen() {
+        const floor = FloorPlanService.createFloor("Hall")
+        FloorPlanService.loadCanvas(floor)
+        for (const [label, x, y] of [["near", 100, 100], ["far", 1500, 1100]])
+            FloorPlanService.createTableItem({ floor_id: floor, label: label, capacity: 4, x: x, y: y, width: 80, height: 80, metadata: "{}" })
+        FloorPlanService.saveCanvas(floor)
+        startWatching()
+        show("common/OrderTakingFloorPlan")
+        const table = label => allShown(item => item.label === label && item.reservationText !== undefined)[0]
+        tryVerify(() => table("far") !== undefined)
+        const view = ancestorView(table("far"))
+
+        table("far").forceActiveFocus(Qt.TabFocusReason)
+
+        tryVerify(() => view.contentX > 0 && view.contentY > 0)
+        verify(isInView(table("far"), view))
     }
 
     function ancestorView(item): var {
