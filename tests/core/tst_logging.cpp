@@ -98,7 +98,7 @@ public:
     [[nodiscard]] QStringList lines(const QString &day) const
     {
         QFile file(QStringLiteral("%1/%2.log").arg(folder(), day));
-        if (!file.open(QIODevice::ReadOnly)) {
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
             return {};
         }
         return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);

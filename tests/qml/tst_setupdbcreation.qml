@@ -10,7 +10,7 @@ ScreenTestCase {
     function test_a_folder_is_proposed_as_a_local_path() {
         screen("setup/SetupDBCreation")
 
-        verify(page.selectedPath.startsWith("/"), page.selectedPath)
+        verify(/^(\/|[A-Z]:\/)[^/]/.test(page.selectedPath), page.selectedPath)
         verify(page.selectedPath.endsWith("/ZelvanPOS/data"))
         compare(field("Select where the database file will be stored.").text, page.selectedPath)
         verify(field("Select where the database file will be stored.").readOnly)

@@ -4,17 +4,24 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QString>
 
 #include <cstddef>
 
 /// Helpers to hold a printed document against one written by hand.
 namespace PrintedPaper {
 
-/// A text with escapes as bytes, zeros inside included.
+/// A text of the sources as the computer's own encoding has it, in which all paper is.
+inline QByteArray local(const QByteArray &text)
+{
+    return QString::fromUtf8(text).toLocal8Bit();
+}
+
+/// A text with escapes as bytes on paper, zeros inside included.
 template<std::size_t Size>
 QByteArray bytes(const char (&text)[Size])
 {
-    return QByteArray(text, static_cast<qsizetype>(Size) - 1);
+    return local(QByteArray(text, static_cast<qsizetype>(Size) - 1));
 }
 
 /// The expected document with "{date}" and "{time}" filled in, and what `build` printed in that

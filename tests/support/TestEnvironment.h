@@ -22,6 +22,8 @@ public:
     /// The clock's zone as the C library writes it, such as "CET-1CEST,M3.5.0,M10.5.0/3"; the
     /// system's own where it is empty.
     static void setTimeZone(const QByteArray &zone);
+    /// The number that Windows gives to the local encoding; 65001 is UTF-8.
+    [[nodiscard]] static int codePage();
 
 private:
     /// A settings store of the system's own that is no file.

@@ -45,7 +45,9 @@ FullSettingsDisk::~FullSettingsDisk() = default;
 
 void FullSettingsDisk::begin()
 {
-    m_obstacle = std::make_unique<Obstacle>();
+    if (m_obstacle == nullptr) {
+        m_obstacle = std::make_unique<Obstacle>();
+    }
 }
 
 QByteArray FullSettingsDisk::stored()

@@ -19,6 +19,8 @@ struct Left
 // CUPS; scripts/check-winspool tries the Windows spooler), tst_durability and tst_usersbesidework
 // (they stand between the program and the calls of this system's own library).
 constexpr Left all[] = {
+    {"tst_analyticsrepository", "localDaysAreWalkedOverSumsOfUtcDays", clock},
+    {"tst_analyticsrepository", "theLastSevenDaysAreFilledUpWithZeroes", clock},
     {"tst_databasemove", "aFolderThatStaysDoesNotFailTheMove", modes},
     {"tst_databasereplace", "leftoversOfTheReplacementGo",
      "the index of the write-ahead log is mapped there, and needs no write that could fail"},
@@ -33,11 +35,26 @@ constexpr Left all[] = {
     {"tst_logging", "theFirstMessageAfterMidnightOpensANewFile", clock},
     {"tst_logging", "twoThreadsNeverMixTheirLines", clock},
     {"tst_logging", "withoutAFileTheErrorStreamStillTells", clock},
+    {"tst_membermodels", "aStoredTimeIsReadAsUtcAndShownLocally", clock},
+    {"tst_openorders", "aRowNamesItsTable", clock},
+    {"tst_openorders", "eastOfGreenwichEveryMorningNumberIsDrawnAfresh", clock},
+    {"tst_openorders", "eastOfGreenwichTheEarlyMorningIsNotListed", clock},
+    {"tst_openorders", "numbersFollowEachOtherWhereBothClocksShowTheSameDay", clock},
+    {"tst_openorders", "ordersAreListedWhereBothClocksShowTheSameDay", clock},
+    {"tst_openorders", "ordersOfPaidSessionsAreNotOpen", clock},
+    {"tst_openorders", "rowsAreNewestFirstWithTheirTable", clock},
+    {"tst_openorders", "theNextLocalDayStartsAfresh", clock},
+    {"tst_openorders", "westOfGreenwichTheEveningsNumberRepeats", clock},
+    {"tst_openorders", "westOfGreenwichTheLateEveningIsNotListed", clock},
+    {"tst_orderrepository", "utcStampsAreMeasuredAgainstLocalDays", clock},
+    {"tst_printreceipt", "theSaleIsInLocalTime", clock},
     {"tst_privatefiles", "*", modes},
     {"tst_settingsstore", "aLinkedStoreStaysALink", settingsFile},
     {"tst_settingsstore", "theStoreIsForItsUserAlone", settingsFile},
     {"tst_settingsstore", "whereTheFolderCannotBeMadeNothingIsStored", settingsFile},
     {"tst_taxreportservice", "aPresetGoesByTheLocalDay", clock},
+    {"tst_translation", "theStoresLanguageCountsOnAnySystem", language},
+    {"tst_workingset", "longHistoriesAnswerAlike", clock},
 };
 } // namespace
 

@@ -16,6 +16,12 @@ void TestEnvironment::setTimeZone(const QByteArray &zone)
     tzset();
 }
 
+int TestEnvironment::codePage()
+{
+    // As the constructor says.
+    return 65001;
+}
+
 void TestEnvironment::makeSettings() {}
 
 void TestEnvironment::removeSettings() {}

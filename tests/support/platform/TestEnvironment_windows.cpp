@@ -59,6 +59,11 @@ void TestEnvironment::setTimeZone(const QByteArray &zone)
     _tzset();
 }
 
+int TestEnvironment::codePage()
+{
+    return static_cast<int>(GetACP());
+}
+
 void TestEnvironment::makeSettings()
 {
     const QString name = QStringLiteral("Software\\Zelvan tests\\%1")
