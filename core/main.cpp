@@ -4,6 +4,7 @@
 #include "core/FontsAhead.h"
 #include "core/Logging.h"
 #include "core/MainWindow.h"
+#include "core/platform/Fonts.h"
 #include "core/Repositories.h"
 #include "core/Services.h"
 #include "core/SystemTheme.h"
@@ -27,6 +28,7 @@ int main(int argc, char *argv[])
     initLogging();
     const FontsAhead fontsAhead;
     QQuickStyle::setStyle(QStringLiteral("Fusion"));
+    chooseFonts();
 
     // Before any connection exists, so that the file may be overwritten. The start goes on on
     // whatever stands there afterwards, hence the ignored result.
