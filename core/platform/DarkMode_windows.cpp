@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-only
 #include "core/platform/DarkMode.h"
 
-#include <QSettings>
+#include "core/platform/Personalization.h"
 
 bool systemPrefersDarkMode()
 {
-    const QSettings personalize(
+    return prefersDarkMode(QSettings(
         QStringLiteral(
             "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize"),
-        QSettings::NativeFormat);
-    return personalize.value(QStringLiteral("AppsUseLightTheme"), 1).toInt() == 0;
+        QSettings::NativeFormat));
 }

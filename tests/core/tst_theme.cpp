@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvan POS developers
 // SPDX-License-Identifier: GPL-3.0-only
+#include "core/LocalPath.h"
+#include "core/platform/Personalization.h"
 #include "core/SystemTheme.h"
 #include "core/Theme.h"
 #include "support/ZelvanTest.h"
@@ -42,6 +44,8 @@ private slots:
     void aChangeOfTheDesktopIsPassedOn();
     void everyPropertyIsNotifiedByTheOneSignal();
     void aLightDesktopIsLight();
+    void aWindowsIsDarkWhereItsUserSaysSo_data();
+    void aWindowsIsDarkWhereItsUserSaysSo();
 };
 
 void tst_Theme::coloursFollowTheMode_data()
@@ -192,6 +196,37 @@ void tst_Theme::aLightDesktopIsLight()
 
     QVERIFY(!system.darkMode());
     QCOMPARE(theme.background(), QColor(QStringLiteral("#FFFFFF")));
+}
+
+void tst_Theme::aWindowsIsDarkWhereItsUserSaysSo_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<bool>("dark");
+
+    QTest::newRow("absent") << QVariant() << false;
+    QTest::newRow("dark") << QVariant(0) << true;
+    QTest::newRow("light") << QVariant(1) << false;
+    QTest::newRow("another number") << QVariant(2) << false;
+    QTest::newRow("no number") << QVariant("text") << true;
+}
+
+void tst_Theme::aWindowsIsDarkWhereItsUserSaysSo()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(bool, dark);
+    // The place that the system reads, where it has one; the same in a file elsewhere.
+    QSettings personalization("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\"
+                              "Themes\\Personalize",
+                              QSettings::NativeFormat);
+    personalization.remove("AppsUseLightTheme");
+    if (stored.isValid()) {
+        personalization.setValue("AppsUseLightTheme", stored);
+    }
+
+    QCOMPARE(prefersDarkMode(personalization), dark);
+    // Only a Windows asks it.
+    QCOMPARE(SystemTheme().darkMode(), dark && nativePathStyle == PathStyle::Windows);
+    personalization.clear();
 }
 
 ZELVAN_TEST(tst_Theme)

@@ -8,6 +8,9 @@
 
 TestEnvironment::TestEnvironment()
 {
+    if (!m_home.isValid()) {
+        qFatal("no folder for the tests: %s", qPrintable(m_home.errorString()));
+    }
     const QDir home(m_home.path());
     for (const char *name : {"config", "data", "cache", "runtime", "tmp", "home"}) {
         home.mkpath(QString::fromLatin1(name));

@@ -109,15 +109,15 @@ int main(int argc, char **argv)
     if (argc > 1 && qstrncmp(argv[1], childPrefix, childPrefixLength) == 0) {
         return runChild(argc, argv);
     }
+    const QString name = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    if (!registry().contains(name)) {
+        return listClasses();
+    }
     const TestEnvironment environment;
     QGuiApplication app(argc, argv);
     TestEnvironment::nameApplication();
 
     QStringList arguments = QCoreApplication::arguments();
-    const QString name = arguments.value(1);
-    if (!registry().contains(name)) {
-        return listClasses();
-    }
     arguments.removeAt(1);
     const std::unique_ptr<QObject> test(registry().value(name)());
     const QMap<QString, QString> left = NotHere::reasons(name);
