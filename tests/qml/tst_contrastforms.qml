@@ -83,7 +83,7 @@ ContrastTestCase {
 
     function test_a_calendar() {
         openBooking()
-        pressOn("📅")
+        presser("📅").clicked()
         const calendar = surfaceUnder(find(item => item.text === "Sun", "the calendar"))
         tryCompare(calendar, "opacity", 1)
 
