@@ -317,6 +317,12 @@ void tst_CupsSpooler::aServerThatNeverStopsSendingIsAnErrorInTwoSeconds_data()
     QTest::newRow("go on, go on") << QByteArray() << QByteArray("HTTP/1.1 100 Continue\r\n\r\n")
                                   << 0;
     QTest::newRow("headers without an end") << ok << QByteArray("X-Field: value\r\n") << 0;
+    // A good answer's beginning, then one attribute after the other.
+    QTest::newRow("an answer without an end")
+        << ok + QByteArray("Content-Length: 2000000000\r\n\r\n"
+                           "\x02\x00\x00\x00\x00\x00\x00\x01\x04",
+                           39)
+        << QByteArray("\x44\x00\x04name\x00\x05value", 14) << 0;
     QTest::newRow("a byte at a time") << QByteArray("HTTP/1.1 200 O") << QByteArray("K") << 200;
 }
 

@@ -6,6 +6,7 @@
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -21,6 +22,25 @@ bool sendAll(int client, const QByteArray &bytes)
         sent += now;
     }
     return true;
+}
+
+enum class Client
+{
+    TakesMore,
+    IsBusy,
+    HasLeft,
+};
+
+/// One that leaves without having read all that was sent is not told of by `send`, which would wait
+/// for room for a minute.
+Client stateOf(int client)
+{
+    constexpr int patienceMs = 100;
+    pollfd place{client, POLLOUT | POLLRDHUP, 0};
+    if (::poll(&place, 1, patienceMs) == 0) {
+        return Client::IsBusy;
+    }
+    return place.revents == POLLOUT ? Client::TakesMore : Client::HasLeft;
 }
 } // namespace
 
@@ -45,6 +65,7 @@ RestlessServer::RestlessServer(QByteArray once, QByteArray again, std::chrono::m
 
 RestlessServer::~RestlessServer()
 {
+    m_ending = true;
     ::shutdown(m_listening, SHUT_RDWR);
     m_thread.join();
     ::close(m_listening);
@@ -80,10 +101,11 @@ void RestlessServer::hangUpOn(int client)
 void RestlessServer::flood(int client)
 {
     bool there = sendAll(client, m_once);
-    while (there) {
-        there = sendAll(client, m_again);
+    while (there && !m_ending) {
+        const Client state = stateOf(client);
+        there = state != Client::HasLeft && (state == Client::IsBusy || sendAll(client, m_again));
         std::this_thread::sleep_for(m_pause);
     }
     ::close(client);
-    m_left = true;
+    m_left = !there;
 }

@@ -36,6 +36,7 @@ private:
     int m_listening;
     quint16 m_port = 0;
     std::atomic<bool> m_left = false;
+    std::atomic<bool> m_ending = false;
     std::atomic<int> m_clients = 0;
     std::vector<int> m_hungUp;
     std::thread m_thread;
